@@ -1,0 +1,2 @@
+#pragma once
+#define DB_API __attribute__((visibility("default")))

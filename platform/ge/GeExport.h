@@ -1,0 +1,2 @@
+#pragma once
+#define GE_API __attribute__((visibility("default")))
