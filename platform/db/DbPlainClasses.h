@@ -1,0 +1,17 @@
+#pragma once
+// Drawing classes that carry no data of their own yet: they exist so that
+// every class of a drawing has its place in the class tree (protocol
+// extensions are found through it), and so that the file reader can keep
+// such objects whole.
+#include "DbLine.h"
+#include "DbSymbolTable.h"
+
+#define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
+  class DB_API Class : public Parent {                                      \
+    ODRX_DECLARE_MEMBERS(Class);                                            \
+                                                                            \
+   public:                                                                  \
+    static OdSmartPtr<Class> createObject();                                \
+  };                                                                        \
+  using Class##Ptr = OdSmartPtr<Class>;
+#include "DbClasses.def"
