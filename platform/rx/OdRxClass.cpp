@@ -80,7 +80,7 @@ OdRxClass::~OdRxClass() = default;
 
 bool OdRxClass::isDerivedFrom(const OdRxClass* other) const {
   if (!other) return false;
-  for (const OdRxClass* cls = this; cls; cls = cls->m_parent)
+  for (const OdRxClass* cls = this; cls; cls = cls->m_parent.get())
     if (cls == other) return true;
   return false;
 }

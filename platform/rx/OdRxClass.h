@@ -14,7 +14,7 @@ class RX_API OdRxClass : public OdRxObject {
   OdRxClass* isA() const override;
 
   const OdString& name() const { return m_name; }
-  OdRxClass* myParent() const { return m_parent; }
+  OdRxClass* myParent() const { return m_parent.get(); }
   const OdString& dxfName() const { return m_dxfName; }
   const OdString& appName() const { return m_appName; }
   // True when this class is other or derives from it.
@@ -38,7 +38,9 @@ class RX_API OdRxClass : public OdRxObject {
 
  private:
   OdString m_name;
-  OdRxClass* m_parent;
+  // A class keeps its parent alive: a module may remove a parent's
+  // descriptor from the dictionary before the descriptors derived from it.
+  OdSmartPtr<OdRxClass> m_parent;
   OdPseudoConstructorType m_ctor;
   OdString m_dxfName;
   OdString m_appName;

@@ -1,0 +1,2 @@
+#pragma once
+#define ZQKERNEL_API __attribute__((visibility("default")))

@@ -1,0 +1,207 @@
+#include "ZQCommandsBase.h"
+#include "ZqServices.h"
+#include "OdDbUnitsFormatter.h"
+#include <QCoreApplication>
+#include <algorithm>
+#include <map>
+#include <memory>
+
+const OdString CZqCommand::groupName() const { return OdString("ZQCOMMANDS"); }
+
+void CZqCommand::execute(OdEdCommandContext* pCmdCtx) {
+  try {
+    ExecuteCommand(pCmdCtx);
+  } catch (const OdEdCancel&) {
+    pCmdCtx->putString(OdString("*Cancel*"));
+  } catch (const OdError& e) {
+    pCmdCtx->putString(OdString(QCoreApplication::translate("errors", "Error") + ": " + e.description().qstring()));
+  }
+}
+
+CZqPropertiesWindowService::CZqPropertiesWindowService(OdDbDatabase* db) : m_db(db) {}
+CZqPropertiesWindowService::~CZqPropertiesWindowService() = default;
+
+void CZqPropertiesWindowService::SetSelection(const OdDbObjectIdArray& ids) {
+  m_selection = ids;
+  if (CZqVELOXQTGate* gate = GetZqVELOXQTGate()) gate->SetCurrentSelection(ids);
+}
+
+namespace {
+struct ObjectRows {
+  OdDbObjectPtr object;
+  std::unique_ptr<CZqPropertiesContainer> container;
+};
+
+ObjectRows rowsOf(const OdDbObjectId& id, OdDb::OpenMode mode) {
+  ObjectRows r;
+  r.object = id.openObject(mode);
+  if (!r.object) return r;
+  CZqPropertyBase* pe = CZqPropertyPEClassFactory::providerFor(r.object.get());
+  if (!pe) return r;
+  CZqPropertiesContainer* c = nullptr;
+  pe->GetPropertyNames(r.object.get(), c, nullptr, nullptr, false);
+  if (c) pe->GetPropertyNamesDynamic(r.object.get(), c);
+  r.container.reset(c);
+  return r;
+}
+
+QString key(const CZqString& category, const CZqString& name) { return category.qstring() + QChar(0x1F) + name.qstring(); }
+}  // namespace
+
+std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBits) const {
+  std::vector<CZqPaletteRow> rows;
+  std::map<QString, size_t> index;
+  std::vector<int> seenCount;
+  const bool multi = m_selection.size() > 1;
+  int objectNo = 0;
+  for (const OdDbObjectId& id : m_selection) {
+    ObjectRows o = rowsOf(id, OdDb::kForRead);
+    if (!o.container) return {};  // an object without rows: nothing is common
+    ++objectNo;
+    for (int i = 0; i < o.container->GetCount(); ++i) {
+      const CZqPropertyDescription* d = o.container->GetAt(i);
+      const unsigned vis = d->GetVisibility();
+      if ((vis & requiredBits) != requiredBits) continue;
+      if (multi && (vis & kZqVisSingleOnly)) continue;
+      const QString k = key(d->GetCategory(), d->GetName());
+      const CZqVariant value = d->GetValue(o.object.get(), CZqVariant());
+      const bool ro = d->IsReadOnly(o.object.get());
+      if (objectNo == 1) {
+        if (index.count(k)) continue;  // a name repeated within one object: the first serves
+        index[k] = rows.size();
+        CZqPaletteRow row;
+        row.category = d->GetCategory();
+        row.name = d->GetName();
+        row.type = d->GetType();
+        row.visibility = vis;
+        row.readOnly = ro;
+        row.value = value;
+        rows.push_back(row);
+        seenCount.push_back(1);
+      } else {
+        auto it = index.find(k);
+        if (it == index.end() || seenCount[it->second] != objectNo - 1) continue;
+        CZqPaletteRow& row = rows[it->second];
+        seenCount[it->second] = objectNo;
+        row.readOnly = row.readOnly || ro;
+        if (!row.varies && !(row.value == value)) row.varies = true;
+      }
+    }
+  }
+  // Keep the rows every object has, grouped by category in order of first appearance.
+  std::vector<CZqPaletteRow> out;
+  std::vector<QString> categories;
+  for (size_t i = 0; i < rows.size(); ++i) {
+    if (seenCount[i] != objectNo) continue;
+    if (std::find(categories.begin(), categories.end(), rows[i].category.qstring()) == categories.end())
+      categories.push_back(rows[i].category.qstring());
+  }
+  for (const QString& cat : categories)
+    for (size_t i = 0; i < rows.size(); ++i) {
+      if (seenCount[i] != objectNo || rows[i].category.qstring() != cat) continue;
+      CZqPaletteRow row = rows[i];
+      if (row.varies) {
+        row.value = CZqVariant();
+        row.text = QCoreApplication::translate("property_values", "*VARIES*");
+      } else {
+        row.text = FormatValue(m_db, row.value, row.type);
+      }
+      out.push_back(row);
+    }
+  return out;
+}
+
+const CZqPaletteRow* CZqPropertiesWindowService::FindRow(const std::vector<CZqPaletteRow>& rows, const QString& name,
+                                                         QString* why) const {
+  QString category, rowName = name.trimmed();
+  const int slash = rowName.indexOf('/');
+  if (slash > 0) {
+    category = rowName.left(slash).trimmed();
+    rowName = rowName.mid(slash + 1).trimmed();
+  }
+  const CZqPaletteRow* found = nullptr;
+  int matches = 0;
+  for (const CZqPaletteRow& r : rows) {
+    if (r.name.qstring().compare(rowName, Qt::CaseInsensitive) != 0) continue;
+    if (!category.isEmpty() && r.category.qstring().compare(category, Qt::CaseInsensitive) != 0) continue;
+    if (!found) found = &r;
+    ++matches;
+  }
+  if (matches == 1) return found;
+  if (why) {
+    *why = matches == 0 ? QCoreApplication::translate("errors", "No property named \"%1\".").arg(name)
+                        : QCoreApplication::translate("errors", "\"%1\" is ambiguous: use Category/Name.").arg(name);
+  }
+  return nullptr;
+}
+
+std::vector<CZqEditResult> CZqPropertiesWindowService::SetValue(const CZqString& category, const CZqString& name,
+                                                                const CZqVariant& value, const CZqVariant& index) {
+  std::vector<CZqEditResult> results;
+  CZqSystemServices* services = GetZqSystemServices();
+  for (const OdDbObjectId& id : m_selection) {
+    CZqEditResult result;
+    result.id = id;
+    result.code = kZqSetRefused;
+    ObjectRows o = rowsOf(id, OdDb::kForWrite);
+    const CZqPropertyDescription* d = o.container ? o.container->GetByName(name, category) : nullptr;
+    if (!d) {
+      result.message = QCoreApplication::translate("errors", "The object has no such property.");
+    } else if (d->IsReadOnly(o.object.get())) {
+      result.message = QCoreApplication::translate("errors", "The property is read-only.");
+    } else {
+      const size_t before = services->Messages().size();
+      result.code = d->SetValue(o.object.get(), value, index);
+      if (services->Messages().size() > before) result.message = services->Messages().back().text;
+    }
+    results.push_back(result);
+  }
+  return results;
+}
+
+CZqString CZqPropertiesWindowService::FormatValue(const OdDbDatabase* db, const CZqVariant& value,
+                                                  const CZqCustomPropertyType& type) {
+  const QString id = type.GetTypeId().qstring();
+  switch (value.GetType()) {
+    case CZqVariant::kVtEmpty: return CZqString();
+    case CZqVariant::kVtDouble: {
+      const double d = value.GetDouble();
+      if (db && CZqPropertyType::isAngle(id)) return CZqString(db->formatter().formatAngle(d));
+      if (db && value.IsUnits()) return CZqString(db->formatter().formatDistance(d));
+      return CZqString(QString::number(d, 'f', db ? db->getLUPREC() : 4));
+    }
+    case CZqVariant::kVtString: return value.GetString();
+    case CZqVariant::kVtInt32:
+      if (id == QLatin1String(CZqPropertyType::kLineweightGUID)) return CZqString(OdDb::lineWeightName(value.GetInt32()));
+      return CZqString(QString::number(value.GetInt32()));
+    case CZqVariant::kVtColor: return CZqString(value.GetColor().description());
+    case CZqVariant::kVtCollection: {
+      const CZqVariantCollection& c = value.GetCollection();
+      if (c.GetCurrent() < 0) return CZqString();
+      return FormatValue(db, c.GetAt(c.GetCurrent()).GetValue(), CZqCustomPropertyType());
+    }
+    case CZqVariant::kVtCollectionElement:
+      return FormatValue(db, value.GetCollectionElement().GetValue(), CZqCustomPropertyType());
+    case CZqVariant::kVtId: {
+      OdDbObjectPtr obj = value.GetId().openObject();
+      if (auto rec = OdDbSymbolTableRecord::cast(obj.get())) return CZqString(rec->getName());
+      return CZqString(value.GetId().getHandle().ascii());
+    }
+  }
+  return CZqString();
+}
+
+double ZqCurvesHelper::GetLength(const OdDbObject* object) {
+  const OdDbCurve* curve = odrxCast<OdDbCurve>(object);
+  if (!curve || !curve->isReadEnabled()) return 0.0;
+  double end = 0, dist = 0;
+  if (curve->getEndParam(end) != eOk || curve->getDistAtParam(end, dist) != eOk) return 0.0;
+  return dist;
+}
+
+double ZqCurvesHelper::GetArea(const OdDbObject* object) {
+  const OdDbCurve* curve = odrxCast<OdDbCurve>(object);
+  if (!curve || !curve->isReadEnabled()) return 0.0;
+  double area = 0;
+  return curve->getArea(area) == eOk ? area : 0.0;
+}

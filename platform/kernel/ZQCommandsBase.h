@@ -1,0 +1,84 @@
+#pragma once
+// The host's command base and the properties-window service shared by the
+// Properties palette, the command-line properties command and the programs.
+#include "KernelExport.h"
+#include "EdCommandStack.h"
+#include "ZqPropertiesKernel.h"
+#include "DbDatabase.h"
+#include <vector>
+
+// Base of the host's commands: the command group, error handling around the
+// body, and the body as the command's own operation.
+class ZQKERNEL_API CZqCommand : public OdEdCommand {
+ public:
+  const OdString groupName() const override;
+  // Runs ExecuteCommand. A cancel (end of input) ends the command quietly
+  // with "*Cancel*"; a platform error is reported as a line and ends it.
+  void execute(OdEdCommandContext* pCmdCtx) override;
+  virtual CZqString displayName() const { return CZqString(localName()); }
+  virtual CZqString Help() const { return CZqString(); }
+  virtual int GetHelpId() const { return 0; }
+  virtual void undefine(bool) {}
+
+ protected:
+  virtual void ExecuteCommand(OdEdCommandContext* pCmdCtx) = 0;
+};
+
+// One row of the palette for a selection: the rows that every selected
+// object has (by category and name), in the order of the first object.
+struct ZQKERNEL_API CZqPaletteRow {
+  CZqString category;
+  CZqString name;
+  CZqCustomPropertyType type;
+  unsigned visibility = 0;
+  bool readOnly = false;        // read-only for at least one object
+  bool varies = false;          // the objects show different values
+  CZqVariant value;             // the common value (empty when it varies)
+  CZqString text;               // the value as the palette shows it
+};
+
+// The result of applying one edit to one object.
+struct ZQKERNEL_API CZqEditResult {
+  OdDbObjectId id;
+  int code = 0;                 // the setter's answer (5100 applied, -5001 refused)
+  CZqString message;            // the message box shown while setting, if any
+};
+
+class ZQKERNEL_API CZqPropertiesWindowService {
+ public:
+  explicit CZqPropertiesWindowService(OdDbDatabase* db);
+  ~CZqPropertiesWindowService();
+
+  // Sets the selection and publishes it through the selection gate.
+  void SetSelection(const OdDbObjectIdArray& ids);
+  const OdDbObjectIdArray& Selection() const { return m_selection; }
+
+  // The rows shown for the selection: rows of every object with the
+  // palette bit; with more than one object, rows marked single-only are
+  // left out. Rows are grouped by category in order of first appearance.
+  std::vector<CZqPaletteRow> Rows(unsigned requiredBits = kZqVisPalette) const;
+  // Finds a row by translated name, case-insensitively; "Category/Name"
+  // picks one of two rows of the same name. Null with a reason when none
+  // or more than one row matches.
+  const CZqPaletteRow* FindRow(const std::vector<CZqPaletteRow>& rows, const QString& name, QString* why = nullptr) const;
+  // Applies value to the row on every selected object: each is opened for
+  // write and the row's setter called. A read-only row is not set (result
+  // -5001 with the message "read-only").
+  std::vector<CZqEditResult> SetValue(const CZqString& category, const CZqString& name, const CZqVariant& value,
+                                      const CZqVariant& index = CZqVariant());
+  // The text the palette shows for a value of a row.
+  static CZqString FormatValue(const OdDbDatabase* db, const CZqVariant& value, const CZqCustomPropertyType& type);
+
+ private:
+  OdDbDatabase* m_db;
+  OdDbObjectIdArray m_selection;
+};
+
+// Length and area of curves, as the selection totals use them.
+class ZQKERNEL_API ZqCurvesHelper {
+ public:
+  // Length from start to end parameter; 0 for what is not a curve.
+  static double GetLength(const OdDbObject* object);
+  // Enclosed area; 0 for what has none.
+  static double GetArea(const OdDbObject* object);
+};

@@ -1,0 +1,311 @@
+#include "ZqPropertiesKernel.h"
+#include "DbDatabase.h"
+#include "ZqServices.h"
+#include <QCoreApplication>
+
+// CZqPropertyBase and CZqCustomPropertyPE are registered together: the
+// first is the protocol, the second the base every provider derives from.
+namespace {
+OdRxClass* g_pPropertyBaseDesc = nullptr;
+OdRxClass* g_pCustomPropertyDesc = nullptr;
+}  // namespace
+
+OdRxClass* CZqPropertyBase::desc() { return g_pPropertyBaseDesc; }
+OdRxClass* CZqPropertyBase::isA() const { return g_pPropertyBaseDesc; }
+void CZqPropertyBase::rxInit() {
+  if (g_pPropertyBaseDesc) throw OdError(eClassAlreadyRegistered, OdString("CZqPropertyBase"));
+  g_pPropertyBaseDesc = newOdRxClass(L"CZqPropertyBase", OdRxObject::desc());
+  g_pCustomPropertyDesc = newOdRxClass(L"CZqCustomPropertyPE", g_pPropertyBaseDesc);
+}
+void CZqPropertyBase::rxUninit() {
+  if (!g_pPropertyBaseDesc) throw OdError(eClassNotRegistered, OdString("CZqPropertyBase"));
+  deleteOdRxClass(g_pCustomPropertyDesc);
+  g_pCustomPropertyDesc = nullptr;
+  deleteOdRxClass(g_pPropertyBaseDesc);
+  g_pPropertyBaseDesc = nullptr;
+}
+
+OdRxClass* CZqCustomPropertyPE::desc() { return g_pCustomPropertyDesc; }
+OdRxClass* CZqCustomPropertyPE::isA() const { return g_pCustomPropertyDesc; }
+void CZqCustomPropertyPE::rxInit() {}
+void CZqCustomPropertyPE::rxUninit() {}
+
+ODRX_DEFINE_MEMBERS(CZqEntityPE, CZqCustomPropertyPE)
+ODRX_DEFINE_MEMBERS(CZqDrawingViewPE, OdRxObject)
+
+CZqPropertyBase::CZqPropertyBase() = default;
+CZqPropertyBase::~CZqPropertyBase() = default;
+
+CZqString CZqPropertyBase::GetClassName(const OdDbObject*) const { return CZqString(); }
+
+void CZqPropertyBase::GetPropertyNames(const OdDbObject*, CZqPropertiesContainer*& container, const OdRxClass*,
+                                       const OdRxClass*, bool) {
+  container = nullptr;
+}
+
+bool CZqPropertyBase::HasDynamicProperties(const OdDbObject*) const { return false; }
+
+CZqPropertiesContainer* CZqPropertyBase::collect(const OdDbObject* object) {
+  CZqPropertiesContainer* container = nullptr;
+  GetPropertyNames(object, container, nullptr, nullptr, false);
+  if (container) GetPropertyNamesDynamic(object, container);
+  return container;
+}
+
+namespace {
+CZqPropertyDescription* findByGuid(CZqPropertiesContainer* c, const CZqString& guid) {
+  for (int i = 0; c && i < c->GetCount(); ++i)
+    if (c->GetAt(i)->GetType().GetTypeId() == guid) return c->GetAt(i);
+  return nullptr;
+}
+}  // namespace
+
+bool CZqPropertyBase::GetPropertyByName(const OdDbObject* object, const CZqString& name, CZqVariant& value,
+                                        const CZqVariant& index) {
+  std::unique_ptr<CZqPropertiesContainer> c(collect(object));
+  CZqPropertyDescription* d = c ? c->GetByName(name) : nullptr;
+  if (!d) return false;
+  value = d->GetValue(object, index);
+  return true;
+}
+
+bool CZqPropertyBase::GetPropertyByGUID(const OdDbObject* object, const CZqString& guid, CZqVariant& value,
+                                        const CZqVariant& index) {
+  std::unique_ptr<CZqPropertiesContainer> c(collect(object));
+  CZqPropertyDescription* d = findByGuid(c.get(), guid);
+  if (!d) return false;
+  value = d->GetValue(object, index);
+  return true;
+}
+
+int CZqPropertyBase::SetPropertyByName(const OdDbObject* object, const CZqString& name, const CZqVariant& value,
+                                       const CZqVariant& index) {
+  std::unique_ptr<CZqPropertiesContainer> c(collect(object));
+  CZqPropertyDescription* d = c ? c->GetByName(name) : nullptr;
+  return d ? d->SetValue(object, value, index) : kZqSetRefused;
+}
+
+int CZqPropertyBase::SetPropertyByGUID(const OdDbObject* object, const CZqString& guid, const CZqVariant& value,
+                                       const CZqVariant& index) {
+  std::unique_ptr<CZqPropertiesContainer> c(collect(object));
+  CZqPropertyDescription* d = findByGuid(c.get(), guid);
+  return d ? d->SetValue(object, value, index) : kZqSetRefused;
+}
+
+CZqPropertyBase* CZqPropertyBase::GetPropertyPEOverride(const OdDbObject*) { return this; }
+
+void CZqPropertyBase::GetPropertyNamesDynamic(const OdDbObject*, CZqPropertiesContainer*&) {}
+
+bool CZqCustomPropertyPE::IsReadOnlyFalse(const OdDbObject*, const CZqPropertyDescription&) { return false; }
+bool CZqCustomPropertyPE::IsReadOnlyTrue(const OdDbObject*, const CZqPropertyDescription&) { return true; }
+
+// ---------------------------------------------------------------------------
+// The general rows.
+
+namespace {
+
+QString tr(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
+
+int refuse(const char* message) {
+  GetZqSystemServices()->MessageBox(tr("errors", message), tr("errors", "Error"));
+  return kZqSetRefused;
+}
+
+// Opens the entity for the callbacks: getters need read access, setters write access.
+const OdDbEntity* readable(const OdDbObject* o) {
+  const OdDbEntity* e = odrxCast<OdDbEntity>(o);
+  return e && e->isReadEnabled() ? e : nullptr;
+}
+OdDbEntity* writable(const OdDbObject* o) {
+  OdDbEntity* e = odrxCast<OdDbEntity>(o);
+  return e && e->isWriteEnabled() ? e : nullptr;
+}
+
+// A record id of the table of the entity's own database, or null.
+bool isRecordOf(const OdDbEntity* e, const OdDbObjectId& id, OdDbObjectId (OdDbDatabase::*table)() const) {
+  if (id.isNull() || !e->database() || id.database() != e->database()) return false;
+  OdDbObjectPtr rec = id.openObject();
+  return rec && rec->ownerId() == (e->database()->*table)();
+}
+
+CZqVariant getColor(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
+  const OdDbEntity* e = readable(o);
+  return e ? CZqVariant(e->color()) : CZqVariant();
+}
+int setColor(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
+  OdDbEntity* e = writable(o);
+  if (!e || v.GetType() != CZqVariant::kVtColor) return kZqSetRefused;
+  e->setColor(v.GetColor());
+  return kZqSetApplied;
+}
+
+CZqVariant getLayer(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
+  const OdDbEntity* e = readable(o);
+  return e ? CZqVariant(e->layerId()) : CZqVariant();
+}
+int setLayer(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
+  OdDbEntity* e = writable(o);
+  if (!e || v.GetType() != CZqVariant::kVtId) return kZqSetRefused;
+  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLayerTableId)) return refuse("Invalid input.");
+  e->setLayer(v.GetId());
+  return kZqSetApplied;
+}
+
+CZqVariant getLinetype(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
+  const OdDbEntity* e = readable(o);
+  return e ? CZqVariant(e->linetypeId()) : CZqVariant();
+}
+int setLinetype(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
+  OdDbEntity* e = writable(o);
+  if (!e || v.GetType() != CZqVariant::kVtId) return kZqSetRefused;
+  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLinetypeTableId)) return refuse("Invalid input.");
+  e->setLinetype(v.GetId());
+  return kZqSetApplied;
+}
+
+CZqVariant getLtScale(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
+  const OdDbEntity* e = readable(o);
+  return e ? CZqVariant(e->linetypeScale(), false) : CZqVariant();
+}
+int setLtScale(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
+  OdDbEntity* e = writable(o);
+  if (!e || v.GetType() != CZqVariant::kVtDouble) return kZqSetRefused;
+  if (!(v.GetDouble() > 1e-10)) return refuse("Value must be positive");
+  e->setLinetypeScale(v.GetDouble());
+  return kZqSetApplied;
+}
+
+CZqVariant getPlotStyle(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
+  const OdDbEntity* e = readable(o);
+  if (!e) return {};
+  const OdString s = e->plotStyleName();
+  return CZqVariant(CZqString(s.isEmpty() ? QString("ByColor") : s.qstring()));
+}
+int setPlotStyle(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
+  OdDbEntity* e = writable(o);
+  if (!e || v.GetType() != CZqVariant::kVtString) return kZqSetRefused;
+  const QString s = v.GetString().qstring().trimmed();
+  // Colour-dependent plot styles: the entity plots by its colour.
+  e->setPlotStyleName(s.compare("ByColor", Qt::CaseInsensitive) == 0 ? OdString() : OdString(s));
+  return kZqSetApplied;
+}
+
+CZqVariant getLineweight(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
+  const OdDbEntity* e = readable(o);
+  return e ? CZqVariant(int32_t(e->lineWeight())) : CZqVariant();
+}
+int setLineweight(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
+  OdDbEntity* e = writable(o);
+  if (!e || v.GetType() != CZqVariant::kVtInt32) return kZqSetRefused;
+  if (!OdDb::isValidLineWeight(v.GetInt32())) return refuse("Invalid input.");
+  e->setLineWeight(OdDb::LineWeight(v.GetInt32()));
+  return kZqSetApplied;
+}
+
+CZqVariant getTransparency(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
+  const OdDbEntity* e = readable(o);
+  return e ? CZqVariant(CZqString(e->transparency().description())) : CZqVariant();
+}
+int setTransparency(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
+  OdDbEntity* e = writable(o);
+  if (!e || v.GetType() != CZqVariant::kVtString) return kZqSetRefused;
+  const QString s = v.GetString().qstring().trimmed();
+  if (s.compare("ByLayer", Qt::CaseInsensitive) == 0) e->setTransparency(OdCmTransparency(OdCmTransparency::kByLayer));
+  else if (s.compare("ByBlock", Qt::CaseInsensitive) == 0) e->setTransparency(OdCmTransparency(OdCmTransparency::kByBlock));
+  else {
+    bool ok = false;
+    const int percent = s.toInt(&ok);
+    if (!ok || percent < 0 || percent > 90) return refuse("Invalid input.");
+    e->setTransparency(OdCmTransparency::fromPercent(percent));
+  }
+  return kZqSetApplied;
+}
+
+CZqVariant getHyperlink(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
+  const OdDbEntity* e = readable(o);
+  if (!e) return {};
+  const auto& links = e->hyperlinks();
+  return CZqVariant(CZqString(links.isEmpty() ? QString() : links.front().name.qstring()));
+}
+int setHyperlink(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
+  OdDbEntity* e = writable(o);
+  if (!e || v.GetType() != CZqVariant::kVtString) return kZqSetRefused;
+  OdArray<OdDbHyperlink> links = e->hyperlinks();
+  const QString url = v.GetString().qstring().trimmed();
+  if (url.isEmpty()) links.clear();
+  else if (links.isEmpty()) links.append(OdDbHyperlink{OdString(url), {}, {}});
+  else links.front().name = OdString(url);
+  e->setHyperlinks(links);
+  return kZqSetApplied;
+}
+
+struct GeneralRow {
+  const char* name;
+  const char* icon;
+  int type;
+  const char* guid;
+  ZqGetMethod get;
+  ZqSetMethod set;
+};
+
+//  name              icon             type  identifier                           get              set
+const GeneralRow kGeneralRows[] = {
+    {"Color",          "Color",          5, nullptr,                             getColor,        setColor},
+    {"Layer",          "Layer",          8, CZqPropertyType::kLayerGUID,         getLayer,        setLayer},
+    {"Linetype",       "Linetype",       8, CZqPropertyType::kLinetypeGUID,      getLinetype,     setLinetype},
+    {"Linetype scale", "LinetypeScale",  2, nullptr,                             getLtScale,      setLtScale},
+    {"Plot style",     "PlotStyle",      3, CZqPropertyType::kPlotStyleGUID,     getPlotStyle,    setPlotStyle},
+    {"Lineweight",     "Lineweight",     4, CZqPropertyType::kLineweightGUID,    getLineweight,   setLineweight},
+    {"Transparency",   "Transparency",   3, CZqPropertyType::kTransparencyGUID,  getTransparency, setTransparency},
+    {"Hyperlink",      "Hyperlink",      3, CZqPropertyType::kHyperlinkGUID,     getHyperlink,    setHyperlink},
+};
+
+}  // namespace
+
+CZqEntityPE::CZqEntityPE() = default;
+CZqEntityPE::~CZqEntityPE() = default;
+
+CZqString CZqEntityPE::GetClassName(const OdDbObject*) const { return tr("entity_types", "Entity"); }
+
+const OdArray<CZqPropertyDescription*>& CZqEntityPE::GeneralRows() {
+  static const OdArray<CZqPropertyDescription*> rows = [] {
+    OdArray<CZqPropertyDescription*> list;
+    for (const GeneralRow& r : kGeneralRows) {
+      auto* d = new CZqCustomPropertyDescription();
+      d->SetCategory(tr("property_groups", "General"));
+      d->SetName(tr("property_types", r.name));
+      d->SetType(CZqCustomPropertyType(r.type, r.guid ? CZqString(r.guid) : CZqString()));
+      d->PutGetMethod(r.get);
+      d->PutSetMethod(r.set);
+      d->PutIsReadOnlyMethod(&CZqCustomPropertyPE::IsReadOnlyFalse);
+      d->SetDarkIcon(QString(":/General/svg_icons/dark/General/General_%1.svg").arg(r.icon));
+      d->SetLightIcon(QString(":/General/svg_icons/light/General/General_%1.svg").arg(r.icon));
+      list.append(d);
+    }
+    return list;
+  }();
+  return rows;
+}
+
+void CZqEntityPE::GetPropertyNames(const OdDbObject*, CZqPropertiesContainer*& container, const OdRxClass*,
+                                   const OdRxClass*, bool) {
+  container = new CZqCustomPropertyContainer();
+  container->Add(GeneralRows());
+}
+
+// ---------------------------------------------------------------------------
+
+namespace {
+bool g_factoryCreated = false;
+}
+
+void CZqPropertyPEClassFactory::create() { g_factoryCreated = true; }
+void CZqPropertyPEClassFactory::destroy() { g_factoryCreated = false; }
+bool CZqPropertyPEClassFactory::isCreated() { return g_factoryCreated; }
+
+CZqPropertyBase* CZqPropertyPEClassFactory::providerFor(const OdDbObject* object) {
+  if (!g_factoryCreated || !object || !CZqPropertyBase::desc()) return nullptr;
+  OdRxObjectPtr x = object->queryX(CZqPropertyBase::desc());
+  auto* pe = static_cast<CZqPropertyBase*>(x.get());
+  return pe ? pe->GetPropertyPEOverride(object) : nullptr;
+}
