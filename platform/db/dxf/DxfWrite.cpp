@@ -1,0 +1,196 @@
+// Writing, saving and lookups of File.
+//
+// A tag that is in the output's form is written as its own bytes; runs of
+// tags that lie one after another in the file buffer are copied in one go,
+// so writing an unedited file is little more than one memcpy.
+#include "DxfInternal.h"
+
+#include <QHash>
+#include <QSaveFile>
+
+#include <algorithm>
+
+namespace OdDxf {
+namespace {
+
+using detail::Access;
+
+class Writer {
+ public:
+  Writer(QByteArray& out, const Format& target, QStringList* problems)
+      : m_out(out), m_target(target), m_problems(problems), m_eol(target.crlf ? "\r\n" : "\n") {}
+
+  void record(const Record& r) {
+    for (const Tag& t : r) tag(t);
+  }
+  void raw(QByteArrayView bytes) {
+    flush();
+    m_out += bytes;
+  }
+  void flush() {
+    if (m_runBegin) m_out.append(m_runBegin, m_runEnd - m_runBegin);
+    m_runBegin = m_runEnd = nullptr;
+  }
+
+ private:
+  void tag(const Tag& t) {
+    const bool bin = m_target.binary;
+    if (m_needEol) {  // the previous tag was a last line without line end
+      flush();
+      m_out += m_eol;
+      m_needEol = false;
+    }
+    if (t.isBinaryForm() == bin && (!bin || detail::hasShortCode(t) == m_target.shortCodes)) {
+      const char* b = Access::begin(t);
+      const char* e = Access::end(t);
+      if (b != m_runEnd) {
+        flush();
+        m_runBegin = b;
+      }
+      m_runEnd = e;
+      m_needEol = !bin && Access::post(t) == 0;
+      return;
+    }
+    flush();
+    QByteArray value;
+    QString problem;
+    if (!detail::appendConverted(value, t, bin, &problem) && m_problems) m_problems->append(problem);
+    const ValueType type = t.type();
+    if (bin && type == ValueType::Binary) {
+      // A length byte holds at most 255: longer data goes into several chunks.
+      qsizetype at = 0;
+      do {
+        const qsizetype n = qMin<qsizetype>(255, value.size() - at);
+        detail::appendCode(m_out, t.code(), m_target);
+        m_out.append(char(n));
+        m_out.append(value.constData() + at, n);
+        at += n;
+      } while (at < value.size());
+      return;
+    }
+    detail::appendCode(m_out, t.code(), m_target);
+    m_out += value;
+    if (!bin)
+      m_out += m_eol;
+    else if (!detail::isNumeric(type))
+      m_out.append('\0');
+  }
+
+  QByteArray& m_out;
+  const Format& m_target;
+  QStringList* m_problems;
+  const char* m_eol;
+  const char* m_runBegin = nullptr;
+  const char* m_runEnd = nullptr;
+  bool m_needEol = false;
+};
+
+}  // namespace
+
+QByteArray File::write(Form form, QStringList* problems) const {
+  Format target = m_format;
+  if (form != Form::AsRead) target.binary = form == Form::Binary;
+  QByteArray out;
+  out.reserve(m_data.size() + m_data.size() / (target.binary == m_format.binary ? 64 : 4) + 1024);
+  Writer w(out, target, problems);
+  if (target.binary)
+    w.raw(QByteArrayView(detail::kBinarySentinel, detail::kBinarySentinelSize));
+  else if (!m_format.binary)
+    w.raw(m_preamble);
+  w.record(m_prologue);
+  for (const Section& s : m_sections) {
+    w.record(s.head);
+    for (const Record& r : s.records) w.record(r);
+    w.record(s.tail);
+  }
+  w.record(m_eof);
+  w.raw(m_trailer);
+  w.flush();
+  return out;
+}
+
+bool File::save(const QString& path, QString& error, Form form) const {
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly)) {
+    error = QStringLiteral("cannot write '%1': %2").arg(path, file.errorString());
+    return false;
+  }
+  const QByteArray bytes = write(form);
+  if (file.write(bytes) != bytes.size()) {
+    error = QStringLiteral("cannot write '%1': %2").arg(path, file.errorString());
+    file.cancelWriting();
+    return false;
+  }
+  if (!file.commit()) {
+    error = QStringLiteral("cannot save '%1': %2").arg(path, file.errorString());
+    return false;
+  }
+  return true;
+}
+
+QByteArray File::version() const {
+  const Record* v = headerVariable("$ACADVER");
+  const int i = v ? v->find(1) : -1;
+  return i < 0 ? QByteArray() : v->at(i).trimmed().toByteArray();
+}
+
+Section* File::section(QByteArrayView name) {
+  for (Section& s : m_sections)
+    if (s.name == name) return &s;
+  return nullptr;
+}
+
+const Section* File::section(QByteArrayView name) const {
+  return const_cast<File*>(this)->section(name);
+}
+
+Record* File::headerVariable(QByteArrayView name) {
+  Section* h = section("HEADER");
+  if (!h || name.isEmpty()) return nullptr;
+  const bool bare = !name.startsWith('$');
+  for (Record& r : h->records) {
+    if (r.isEmpty() || r.at(0).code() != 9) continue;
+    const QByteArrayView t = r.type();
+    if (bare ? (t.size() == name.size() + 1 && t.startsWith('$') && t.sliced(1) == name) : t == name) return &r;
+  }
+  return nullptr;
+}
+
+const Record* File::headerVariable(QByteArrayView name) const {
+  return const_cast<File*>(this)->headerVariable(name);
+}
+
+Section& File::addSection(QByteArrayView name) {
+  Section s;
+  s.name = name.toByteArray();
+  s.head = Record::make(m_format, "SECTION");
+  s.head.setRaw(s.head.append(2), name);
+  s.tail = Record::make(m_format, "ENDSEC");
+  m_sections.append(std::move(s));
+  return m_sections.last();
+}
+
+QList<quint64> File::duplicateHandles() const {
+  QHash<quint64, int> seen;
+  QList<quint64> dups;
+  for (const Section& s : m_sections) {
+    if (s.name == "HEADER") continue;
+    for (const Record& r : s.records) {
+      const quint64 h = r.handle();
+      if (h && ++seen[h] == 2) dups.append(h);
+    }
+  }
+  std::sort(dups.begin(), dups.end());
+  return dups;
+}
+
+qsizetype File::tagCount() const {
+  qsizetype n = m_prologue.size() + m_eof.size();
+  for (const Section& s : m_sections) {
+    n += s.head.size() + s.tail.size();
+    for (const Record& r : s.records) n += r.size();
+  }
+  return n;
+}
+
+}  // namespace OdDxf
