@@ -73,3 +73,4 @@ OdEdCommandStack* odedRegCmds() {
 
 OdEdUserIO::~OdEdUserIO() = default;
 OdEdCommandContext::~OdEdCommandContext() = default;
+OdEdCancel::~OdEdCancel() = default;

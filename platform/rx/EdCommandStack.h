@@ -60,6 +60,7 @@ class RX_API OdEdUserIO {
 class RX_API OdEdCancel : public OdError {
  public:
   OdEdCancel() : OdError(eInvalidInput, OdString("cancelled")) {}
+  ~OdEdCancel() override;
 };
 
 class OdDbDatabase;

@@ -48,7 +48,7 @@ class RX_API OdError {
  public:
   explicit OdError(OdResult code) : m_code(code) {}
   OdError(OdResult code, OdString detail) : m_code(code), m_detail(std::move(detail)) {}
-  virtual ~OdError() = default;
+  virtual ~OdError();
   OdResult code() const { return m_code; }
   OdString description() const;
 
@@ -61,9 +61,11 @@ class RX_API OdError_NotThatKindOfClass : public OdError {
  public:
   OdError_NotThatKindOfClass() : OdError(eNotThatKindOfClass) {}
   OdError_NotThatKindOfClass(const class OdRxClass* actual, const class OdRxClass* wanted);
+  ~OdError_NotThatKindOfClass() override;
 };
 
 class RX_API OdError_InvalidIndex : public OdError {
  public:
   OdError_InvalidIndex() : OdError(eInvalidIndex) {}
+  ~OdError_InvalidIndex() override;
 };

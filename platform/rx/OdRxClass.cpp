@@ -227,6 +227,10 @@ OdString odResultName(OdResult res) {
   return OdString(QString("OdResult %1").arg(int(res)));
 }
 
+OdError::~OdError() = default;
+OdError_NotThatKindOfClass::~OdError_NotThatKindOfClass() = default;
+OdError_InvalidIndex::~OdError_InvalidIndex() = default;
+
 OdString OdError::description() const {
   OdString text = odResultName(m_code);
   if (!m_detail.isEmpty()) text += OdString(": ") + m_detail;

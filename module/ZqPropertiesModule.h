@@ -1,0 +1,30 @@
+#pragma once
+// The module object: every provider, information provider and the command
+// are members, attached to the drawing classes by initApp and taken down by
+// uninitApp.
+#include "RxModule.h"
+#include "MinusProperties.h"
+#include "ZqEntityExPE.h"
+#include "Line.h"
+
+#include <vector>
+
+struct ZqAttachment;
+
+class CZqPropertiesModule : public OdRxModule {
+ public:
+  CZqPropertiesModule();
+  ~CZqPropertiesModule() override;
+  void initApp() override;
+  void uninitApp() override;
+
+ private:
+  // The rows of the attachment table that have providers, in table order.
+  std::vector<ZqAttachment> attachments();
+
+#define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Info, InfoPosition) OdStaticRxObject<Provider> m_##Provider;
+#include "ZqProviders.def"
+#define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Info, InfoPosition) OdStaticRxObject<Info> m_##Info;
+#include "ZqProviders.def"
+  OdStaticRxObject<CZqCommandMinusProperties> m_command;
+};
