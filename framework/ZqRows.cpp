@@ -36,7 +36,7 @@ QString lightIcon(const ZqRow& row) {
 }  // namespace
 
 CZqCustomPropertyDescription* ZqBuildFixedDescription(const ZqRow& row, OdArray<CZqPropertyDescription*>& list) {
-  auto* d = new CZqCustomPropertyDescription();
+  auto* d = CZqCustomPropertyDescription::CreateStatic();
   d->SetCategory(categoryText(row));
   d->SetName(nameText(row));
   d->SetIsDynamic(false);

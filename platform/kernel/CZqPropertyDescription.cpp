@@ -4,6 +4,12 @@ CZqPropertyDescription::~CZqPropertyDescription() = default;
 CZqCustomPropertyDescription::CZqCustomPropertyDescription() = default;
 CZqCustomPropertyDescription::~CZqCustomPropertyDescription() = default;
 
+CZqCustomPropertyDescription* CZqCustomPropertyDescription::CreateStatic() {
+  static std::vector<std::unique_ptr<CZqCustomPropertyDescription>> pool;
+  pool.push_back(std::make_unique<CZqCustomPropertyDescription>());
+  return pool.back().get();
+}
+
 CZqVariant CZqCustomPropertyDescription::DoGroupedAction(const OdArray<OdDbObjectId>& objects,
                                                          const CZqVariant& value, const CZqVariant& index) const {
   return m_groupAction ? m_groupAction(objects, *this, value, index) : CZqVariant();

@@ -126,6 +126,9 @@ class ZQKERNEL_API CZqCustomPropertyDescription : public CZqPropertyDescription 
   ZqGetMethod GetGetMethod() const override { return m_get; }
   ZqSetMethod GetSetMethod() const override { return m_set; }
   ZqGroupActionMethod GetGroupActionMethod() const override { return m_groupAction; }
+  // A description for a provider's static list: it lives as long as the
+  // process, whether or not the module that asked for it stays loaded.
+  static CZqCustomPropertyDescription* CreateStatic();
   // Two descriptions are equal when they describe the same row: category,
   // name and editor type.
   bool operator==(const CZqPropertyDescription& other) const override;

@@ -271,7 +271,7 @@ const OdArray<CZqPropertyDescription*>& CZqEntityPE::GeneralRows() {
   static const OdArray<CZqPropertyDescription*> rows = [] {
     OdArray<CZqPropertyDescription*> list;
     for (const GeneralRow& r : kGeneralRows) {
-      auto* d = new CZqCustomPropertyDescription();
+      auto* d = CZqCustomPropertyDescription::CreateStatic();
       d->SetCategory(tr("property_groups", "General"));
       d->SetName(tr("property_types", r.name));
       d->SetType(CZqCustomPropertyType(r.type, r.guid ? CZqString(r.guid) : CZqString()));

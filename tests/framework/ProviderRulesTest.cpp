@@ -1,0 +1,189 @@
+// The rules every provider follows: class fallback, the static-list steps of
+// GetPropertyNames, the selection totals, and a walk over every row of every
+// provider the module attached.
+#include "ZqTestSupport.h"
+#include "CZqPropertyType.h"
+#include <QRegularExpression>
+#include <set>
+
+namespace {
+
+class ProviderRulesTest : public ZqDrawingTest {};
+
+TEST_F(ProviderRulesTest, ClassesWithoutARowFallBackToTheirNearestAttachedParent) {
+  struct Case {
+    OdRxClass* cls;
+    const char* provider;
+    const char* info;
+  };
+  const Case cases[] = {
+      {OdDbWipeout::desc(), "CZqEntityPE", "CZqPrintObjectInfoPE"},
+      {OdDbRasterImage::desc(), "CZqEntityPE", "CZqPrintObjectInfoPE"},
+      {OdDbArcAlignedText::desc(), "CZqEntityPE", "CZqPrintObjectInfoPE"},
+      {OdDbLine::desc(), "CZqLinePE", ""},
+  };
+  for (const Case& c : cases) {
+    OdDbEntityPtr e = OdDbEntity::cast(c.cls->create().get());
+    ASSERT_TRUE(e) << c.cls->name().toStdString();
+    CZqPropertyBase* pe = zqProviderFor(e.get());
+    ASSERT_NE(pe, nullptr);
+    EXPECT_EQ(pe->isA()->name().toStdString(), c.provider) << c.cls->name().toStdString();
+    CZqPrintObjectInfoPE* info = zqInfoFor(e.get());
+    ASSERT_NE(info, nullptr);
+    if (*c.info) EXPECT_EQ(info->isA()->name().toStdString(), c.info);
+  }
+  // The generic information provider prints only the general lines.
+  OdDbEntityPtr wipeout = OdDbEntity::cast(OdDbWipeout::desc()->create().get());
+  const OdDbObjectId id = addToModelSpace(wipeout.get());
+  wipeout.release();
+  const auto lines = info(id);
+  std::vector<QString> labels;
+  for (const auto& l : lines) labels.push_back(l.label);
+  EXPECT_EQ(labels, (std::vector<QString>{"Class name", "Handle", "Layer", "Space", "Color", "Linetype"}));
+  EXPECT_EQ(lines[0].text, "WIPEOUT");
+  EXPECT_EQ(lines[3].text, "Model space");
+}
+
+// A class derived from OdDbLine that the module knows nothing about.
+class TestDerivedLine : public OdDbLine {
+ public:
+  static OdRxClass* desc() {
+    static OdRxClass* cls = newOdRxClass(L"TestDerivedLine", OdDbLine::desc(),
+                                         +[]() -> OdRxObjectPtr { return OdRxObjectPtr(new TestDerivedLine()); });
+    return cls;
+  }
+  OdRxClass* isA() const override { return desc(); }
+};
+
+TEST_F(ProviderRulesTest, ADerivedLineFindsTheLineProvider) {
+  OdRxObjectPtr obj = TestDerivedLine::desc()->create();
+  CZqPropertyBase* pe = zqProviderFor(static_cast<OdDbObject*>(obj.get()));
+  ASSERT_NE(pe, nullptr);
+  EXPECT_EQ(pe->isA(), odrxClassDictionary().getAt("CZqLinePE"));
+}
+
+TEST_F(ProviderRulesTest, GroupsAreNotFoundThroughThePropertyProtocol) {
+  OdRxObjectPtr group = OdDbGroup::desc()->create();
+  EXPECT_EQ(zqProviderFor(static_cast<OdDbObject*>(group.get())), nullptr);
+}
+
+// Counts how many of the line's own rows a call adds.
+int ownRows(CZqPropertyBase* pe, const OdDbObject* obj, const OdRxClass* objectClass, const OdRxClass* providerClass,
+            bool excludeOwn) {
+  CZqPropertiesContainer* c = nullptr;
+  pe->GetPropertyNames(obj, c, objectClass, providerClass, excludeOwn);
+  std::unique_ptr<CZqPropertiesContainer> owned(c);
+  if (!c) return -1;
+  return c->GetCount() - int(CZqEntityPE::GeneralRows().size());
+}
+
+TEST_F(ProviderRulesTest, StaticListStepsFollowTheFlagsAndFilters) {
+  // A fresh module has empty static lists: reload it.
+  zqUnloadModule();
+  zqEnsureModuleLoaded();
+  const OdDbObjectId id = addLine({0, 0, 0}, {1, 0, 0});
+  OdDbObjectPtr line = id.openObject();
+  CZqPropertyBase* pe = zqProviderFor(line.get());
+  ASSERT_NE(pe, nullptr);
+  OdRxClass* linePE = odrxClassDictionary().getAt("CZqLinePE");
+  OdRxClass* entityPE = odrxClassDictionary().getAt("CZqEntityPE");
+
+  // First call with excludeOwn and a class that is not a line: builds the
+  // list but adds nothing of it.
+  EXPECT_EQ(ownRows(pe, line.get(), OdDbCircle::desc(), nullptr, true), 0);
+  // The list is built now; excludeOwn is honoured from here on.
+  EXPECT_EQ(ownRows(pe, line.get(), nullptr, nullptr, true), 0);
+  EXPECT_EQ(ownRows(pe, line.get(), nullptr, nullptr, false), 12);
+  EXPECT_EQ(ownRows(pe, line.get(), OdDbLine::desc(), nullptr, false), 12);
+  EXPECT_EQ(ownRows(pe, line.get(), OdDbCurve::desc(), nullptr, false), 0);
+  // Provider-class filter: the line's own class or a class derived from it.
+  EXPECT_EQ(ownRows(pe, line.get(), nullptr, linePE, false), 12);
+  EXPECT_EQ(ownRows(pe, line.get(), nullptr, entityPE, false), 0);
+}
+
+TEST_F(ProviderRulesTest, FirstCallAddsTheFixedRowsEvenWhenExcludeOwnIsSet) {
+  zqUnloadModule();
+  zqEnsureModuleLoaded();
+  const OdDbObjectId id = addLine({0, 0, 0}, {1, 0, 0});
+  OdDbObjectPtr line = id.openObject();
+  CZqPropertyBase* pe = zqProviderFor(line.get());
+  EXPECT_EQ(ownRows(pe, line.get(), nullptr, nullptr, true), 12);
+  EXPECT_EQ(ownRows(pe, line.get(), nullptr, nullptr, true), 0);
+}
+
+TEST_F(ProviderRulesTest, TotalLengthOnlyForASelectionOfTwoOrMore) {
+  const OdDbObjectId a = addLine({0, 0, 0}, {3, 4, 0});
+  const OdDbObjectId b = addLine({1, 1, 1}, {1, 1, 3});
+  CZqPropertiesWindowService service(db.get());
+  auto hasTotal = [&] {
+    OdDbObjectPtr obj = a.openObject();
+    auto rows = zqRowsOf(obj.get());
+    return zqRow(rows.get(), "Geometry", "Total Length") != nullptr;
+  };
+  service.SetSelection({a});
+  EXPECT_FALSE(hasTotal());
+  service.SetSelection({a, b});
+  ASSERT_TRUE(hasTotal());
+  EXPECT_DOUBLE_EQ(get(a, "Geometry", "Total Length").GetDouble(), 5.0 + 2.0);
+  {
+    OdDbObjectPtr obj = a.openObject();
+    auto rows = zqRowsOf(obj.get());
+    CZqPropertyDescription* d = zqRow(rows.get(), "Geometry", "Total Length");
+    EXPECT_TRUE(d->IsDynamic());
+    EXPECT_TRUE(d->IsReadOnly(obj.get()));
+    EXPECT_EQ(d->SetValue(obj.get(), CZqVariant(1.0, true), {}), 0);  // the totals answer 0, not 5100
+    EXPECT_EQ(d->GetType(), CZqCustomPropertyType(0, CZqPropertyType::accumulatedLengthGUID));
+    EXPECT_EQ(d->GetDarkIcon().qstring(), ":/Geometry/svg_icons/dark/Geometry/Geometry_Length.svg");
+    // Lines have no area: no Total Area row.
+    EXPECT_EQ(zqRow(rows.get(), "Geometry", "Total Area"), nullptr);
+  }
+  // Without a gate there is no selection to total.
+  CZqVELOXQTGate* gate = SetZqVELOXQTGate(nullptr);
+  EXPECT_FALSE(hasTotal());
+  SetZqVELOXQTGate(gate);
+}
+
+// Every row of every provider the module attached: unique names within a
+// provider, known editor types, well-formed icons, a getter on every row
+// and no setter on rows that are always read-only.
+TEST_F(ProviderRulesTest, EveryRowOfEveryProviderIsWellFormed) {
+  const QRegularExpression iconPath(R"(^:/(\w+)/svg_icons/(dark|light)/\1/\1_\w+\.svg$)");
+  int providers = 0;
+  for (int i = 1; i < kOdDbRegisteredClassCount; ++i) {
+    OdRxClass* cls = g_odDbRegistredDwgClasses[i];
+    if (!cls || !cls->constructor() || !cls->isDerivedFrom(OdDbEntity::desc())) continue;
+    OdRxObjectPtr obj = cls->create();
+    auto* entity = static_cast<OdDbEntity*>(obj.get());
+    const OdDbObjectId id = addToModelSpace(entity);
+    obj.release();
+    OdDbObjectPtr open = id.openObject();
+    auto rows = zqRowsOf(open.get());
+    ASSERT_TRUE(rows) << cls->name().toStdString();
+    ++providers;
+    std::set<QString> names;
+    for (int r = 0; r < rows->GetCount(); ++r) {
+      const CZqPropertyDescription* d = rows->GetAt(r);
+      const std::string where = cls->name().toStdString() + " / " + d->GetName().qstring().toStdString();
+      EXPECT_TRUE(names.insert(d->GetCategory().qstring() + "/" + d->GetName().qstring()).second) << where;
+      EXPECT_NE(d->GetGetMethod(), nullptr) << where;
+      const QString typeId = d->GetType().GetTypeId().qstring();
+      EXPECT_TRUE(typeId.isEmpty() || CZqPropertyType::all().contains(typeId)) << where;
+      if (d->GetCategory().qstring() == "MATCHPROP") {
+        EXPECT_EQ(d->GetVisibility(), 4u) << where;
+        continue;
+      }
+      EXPECT_TRUE(iconPath.match(d->GetDarkIcon().qstring()).hasMatch()) << where;
+      EXPECT_TRUE(iconPath.match(d->GetLightIcon().qstring()).hasMatch()) << where;
+      EXPECT_EQ(QString(d->GetDarkIcon().qstring()).replace("/dark/", "/light/"), d->GetLightIcon().qstring()) << where;
+      EXPECT_TRUE(d->GetIcon().isEmpty()) << where;
+      EXPECT_TRUE(d->GetDescription().isEmpty()) << where;
+      if (d->GetIsReadOnlyMethod() == &CZqCustomPropertyPE::IsReadOnlyTrue && !d->IsDynamic())
+        EXPECT_EQ(d->GetSetMethod(), nullptr) << where;
+      // Getters answer something for an object of their class.
+      (void)d->GetValue(open.get(), CZqVariant());
+    }
+  }
+  EXPECT_GT(providers, 40);
+}
+
+}  // namespace
