@@ -1,5 +1,8 @@
 #include "MinusProperties.h"
+#include "DbPlainClasses.h"
+#include "ZqServices.h"
 #include <QCoreApplication>
+#include <QStringList>
 
 const OdString CZqCommandMinusProperties::globalName() const { return OdString("_-PROPERTIES"); }
 
@@ -9,4 +12,109 @@ const OdString CZqCommandMinusProperties::localName() const {
       .toOdString();
 }
 
-void CZqCommandMinusProperties::ExecuteCommand(OdEdCommandContext*) {}
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("CZqCommandMinusProperties", text); }
+
+// A keyword answer: the whole word or its capital letters ("L" for "List",
+// "X" for "eXit"), without regard to case.
+bool isKeyword(const QString& answer, const QString& keyword) {
+  if (answer.compare(keyword, Qt::CaseInsensitive) == 0) return true;
+  QString caps;
+  for (QChar c : keyword)
+    if (c.isUpper()) caps += c;
+  return !caps.isEmpty() && answer.compare(caps, Qt::CaseInsensitive) == 0;
+}
+
+// The model-space objects an answer to "Select objects:" names: a handle,
+// ALL, or an entity type by its file name (LINE) or display name (Line).
+OdDbObjectIdArray selectionFor(OdDbDatabase* db, const QString& answer) {
+  OdDbObjectIdArray out;
+  OdDbObjectPtr ms = db->getModelSpaceId().openObject();
+  auto space = OdDbBlockTableRecord::cast(ms.get());
+  if (!space) return out;
+  const OdDbObjectIdArray all = space->entityIds();
+  if (answer.compare("ALL", Qt::CaseInsensitive) == 0) return all;
+  for (const OdDbObjectId& id : all) {
+    OdDbObjectPtr obj = id.openObject();
+    const OdRxClass* cls = obj->isA();
+    CZqPropertyBase* pe = CZqPropertyPEClassFactory::providerFor(obj.get());
+    if (cls->dxfName().qstring().compare(answer, Qt::CaseInsensitive) == 0 ||
+        (pe && pe->GetClassName(obj.get()).qstring().compare(answer, Qt::CaseInsensitive) == 0))
+      out.append(id);
+  }
+  if (!out.isEmpty()) return out;
+  bool ok = false;
+  const qulonglong h = answer.toULongLong(&ok, 16);
+  if (ok) {
+    const OdDbObjectId id = db->getOdDbObjectId(OdDbHandle(h));
+    OdDbObjectPtr obj = id.openObject();
+    if (obj && obj->ownerId() == db->getModelSpaceId()) out.append(id);
+  }
+  return out;
+}
+
+void listRows(OdEdCommandContext* ctx, const std::vector<CZqPaletteRow>& rows) {
+  for (const CZqPaletteRow& r : rows) {
+    QString line = QString("  %1/%2: %3").arg(r.category.qstring(), r.name.qstring(), r.text.qstring());
+    if (r.readOnly) line += "  " + tr("(read-only)");
+    ctx->putString(OdString(line));
+  }
+}
+
+}  // namespace
+
+void CZqCommandMinusProperties::ExecuteCommand(OdEdCommandContext* ctx) {
+  auto* db = static_cast<OdDbDatabase*>(ctx->baseDatabase());
+  if (!db) return;
+  CZqPropertiesWindowService service(db);
+
+  OdDbObjectIdArray selection;
+  for (;;) {
+    const QString answer = ctx->getString(OdString(tr("Select objects:"))).qstring().trimmed();
+    if (answer.isEmpty()) break;
+    const OdDbObjectIdArray found = selectionFor(db, answer);
+    for (const OdDbObjectId& id : found)
+      if (!selection.contains(id)) selection.append(id);
+    ctx->putString(OdString(tr("%1 found, %2 total").arg(found.size()).arg(selection.size())));
+  }
+  if (selection.isEmpty()) {
+    ctx->putString(OdString(tr("Nothing selected.")));
+    return;
+  }
+  service.SetSelection(selection);
+
+  for (;;) {
+    const std::vector<CZqPaletteRow> rows = service.Rows();
+    const QString answer =
+        ctx->getString(OdString(tr("Enter property name or [List/eXit] <eXit>:"))).qstring().trimmed();
+    if (answer.isEmpty() || isKeyword(answer, "eXit")) return;
+    if (isKeyword(answer, "List")) {
+      listRows(ctx, rows);
+      continue;
+    }
+    QString why;
+    const CZqPaletteRow* row = service.FindRow(rows, answer, &why);
+    if (!row) {
+      ctx->putString(OdString(why));
+      continue;
+    }
+    if (row->readOnly) {
+      ctx->putString(OdString(tr("%1 is read-only.").arg(row->name.qstring())));
+      continue;
+    }
+    const QString typed = ctx->getString(OdString(tr("Enter new value for %1 <%2>:").arg(row->name.qstring(), row->text.qstring()))).qstring();
+    if (typed.trimmed().isEmpty()) continue;  // keep the current value
+    CZqVariant value;
+    if (!service.ParseValue(*row, typed, value, &why)) {
+      ctx->putString(OdString(why));
+      continue;
+    }
+    for (const CZqEditResult& r : service.SetValue(row->category, row->name, value)) {
+      if (r.code == kZqSetRefused) {
+        ctx->putString(OdString(tr("Refused for %1: %2").arg(r.id.getHandle().ascii().qstring(),
+                                                               r.message.isEmpty() ? tr("invalid value") : r.message.qstring())));
+      }
+    }
+  }
+}

@@ -76,6 +76,7 @@ std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBit
         row.visibility = vis;
         row.readOnly = ro;
         row.value = value;
+        row.sample = value;
         rows.push_back(row);
         seenCount.push_back(1);
       } else {
@@ -135,6 +136,11 @@ const CZqPaletteRow* CZqPropertiesWindowService::FindRow(const std::vector<CZqPa
   return nullptr;
 }
 
+namespace {
+int g_refusedEdits = 0;
+}
+int CZqPropertiesWindowService::RefusedEdits() { return g_refusedEdits; }
+
 std::vector<CZqEditResult> CZqPropertiesWindowService::SetValue(const CZqString& category, const CZqString& name,
                                                                 const CZqVariant& value, const CZqVariant& index) {
   std::vector<CZqEditResult> results;
@@ -154,6 +160,7 @@ std::vector<CZqEditResult> CZqPropertiesWindowService::SetValue(const CZqString&
       result.code = d->SetValue(o.object.get(), value, index);
       if (services->Messages().size() > before) result.message = services->Messages().back().text;
     }
+    if (result.code == kZqSetRefused) ++g_refusedEdits;
     results.push_back(result);
   }
   return results;
@@ -189,6 +196,104 @@ CZqString CZqPropertiesWindowService::FormatValue(const OdDbDatabase* db, const 
     }
   }
   return CZqString();
+}
+
+namespace {
+QString errorText(const char* text) { return QCoreApplication::translate("errors", text); }
+
+// The symbol table an object-id row picks its records from.
+OdDbObjectId tableForIdRow(const OdDbDatabase* db, const QString& typeId) {
+  if (typeId == QLatin1String(CZqPropertyType::kLayerGUID)) return db->getLayerTableId();
+  if (typeId == QLatin1String(CZqPropertyType::kLinetypeGUID)) return db->getLinetypeTableId();
+  if (typeId == QLatin1String(CZqPropertyType::kTextStyleGUID)) return db->getTextStyleTableId();
+  if (typeId == QLatin1String(CZqPropertyType::kDimStyleGUID)) return db->getDimStyleTableId();
+  return {};
+}
+
+bool parseLineweight(const QString& t, int32_t& out) {
+  if (t.compare("ByLayer", Qt::CaseInsensitive) == 0) { out = OdDb::kLnWtByLayer; return true; }
+  if (t.compare("ByBlock", Qt::CaseInsensitive) == 0) { out = OdDb::kLnWtByBlock; return true; }
+  if (t.compare("Default", Qt::CaseInsensitive) == 0) { out = OdDb::kLnWtByLwDefault; return true; }
+  QString n = t;
+  const bool mm = n.endsWith("mm", Qt::CaseInsensitive);
+  if (mm) n.chop(2);
+  bool ok = false;
+  const double v = n.trimmed().toDouble(&ok);
+  if (!ok) return false;
+  // "0.25" and "0.25 mm" are millimetres, "25" hundredths of a millimetre.
+  const bool millimetres = mm || n.contains('.');
+  out = int32_t(std::lround(millimetres ? v * 100 : v));
+  return OdDb::isValidLineWeight(out);
+}
+}  // namespace
+
+bool CZqPropertiesWindowService::ParseValue(const CZqPaletteRow& row, const QString& typed, CZqVariant& value,
+                                            QString* why) const {
+  const QString text = typed.trimmed();
+  const QString typeId = row.type.GetTypeId().qstring();
+  auto fail = [&](const QString& reason) {
+    if (why) *why = reason;
+    return false;
+  };
+  // The kind of value the row shows decides how the answer is read; a row
+  // without a value falls back to its declared editor kind.
+  int kind = row.sample.GetType();
+  if (kind == CZqVariant::kVtEmpty) kind = row.type.GetType();
+  switch (kind) {
+    case CZqVariant::kVtDouble: {
+      if (!m_db) return fail(errorText("No drawing."));
+      double v = 0;
+      const OdDbUnitsFormatter f = m_db->formatter();
+      const bool ok = CZqPropertyType::isAngle(typeId) ? f.parseAngle(OdString(text), v) : f.parseDistance(OdString(text), v);
+      if (!ok) return fail(errorText("Invalid input.") + " " + text);
+      value = CZqVariant(v, true);
+      return true;
+    }
+    case CZqVariant::kVtString:
+      value = CZqVariant(CZqString(typed));
+      return true;
+    case CZqVariant::kVtInt32: {
+      int32_t v = 0;
+      bool ok = false;
+      if (typeId == QLatin1String(CZqPropertyType::kLineweightGUID)) ok = parseLineweight(text, v);
+      else v = text.toInt(&ok);
+      if (!ok) return fail(errorText("Invalid input.") + " " + text);
+      value = CZqVariant(v);
+      return true;
+    }
+    case CZqVariant::kVtColor: {
+      OdCmColor c;
+      if (!OdCmColor::parse(OdString(text), c)) return fail(errorText("Invalid input.") + " " + text);
+      value = CZqVariant(c);
+      return true;
+    }
+    case CZqVariant::kVtCollection:
+    case CZqVariant::kVtCollectionElement: {
+      const CZqVariantCollection& choices = row.sample.GetCollection();
+      for (int i = 0; i < choices.GetCount(); ++i)
+        if (choices.GetAt(i).GetValue().GetString().qstring().compare(text, Qt::CaseInsensitive) == 0) {
+          value = CZqVariant(choices.GetAt(i));
+          return true;
+        }
+      bool ok = false;
+      const int n = text.toInt(&ok);
+      const int at = ok ? choices.FindTag(n) : -1;
+      if (at < 0) return fail(errorText("Invalid input.") + " " + text);
+      value = CZqVariant(choices.GetAt(at));
+      return true;
+    }
+    case CZqVariant::kVtId: {
+      if (!m_db) return fail(errorText("No drawing."));
+      OdDbObjectPtr table = tableForIdRow(m_db, typeId).openObject();
+      auto t = OdDbSymbolTable::cast(table.get());
+      const OdDbObjectId id = t ? t->getAt(OdString(text)) : OdDbObjectId();
+      if (id.isNull()) return fail(errorText("No such name:") + " " + text);
+      value = CZqVariant(id);
+      return true;
+    }
+    default:
+      return fail(errorText("The property cannot be set from text."));
+  }
 }
 
 double ZqCurvesHelper::GetLength(const OdDbObject* object) {

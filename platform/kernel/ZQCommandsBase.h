@@ -34,6 +34,7 @@ struct ZQKERNEL_API CZqPaletteRow {
   bool readOnly = false;        // read-only for at least one object
   bool varies = false;          // the objects show different values
   CZqVariant value;             // the common value (empty when it varies)
+  CZqVariant sample;            // the first object's value, even when it varies
   CZqString text;               // the value as the palette shows it
 };
 
@@ -66,6 +67,17 @@ class ZQKERNEL_API CZqPropertiesWindowService {
   // -5001 with the message "read-only").
   std::vector<CZqEditResult> SetValue(const CZqString& category, const CZqString& name, const CZqVariant& value,
                                       const CZqVariant& index = CZqVariant());
+  // Turns what a user typed into the value a row's setter takes, decided by
+  // the kind of value the row shows: distances and angles through the
+  // drawing's value parser, strings as typed, integers (lineweights also as
+  // "0.25 mm", ByLayer, ByBlock, Default), an enumeration choice by its word
+  // or its number, a colour by index, name, ByLayer, ByBlock or r,g,b, and a
+  // layer, linetype or style by name. False with a reason for what cannot
+  // be read.
+  bool ParseValue(const CZqPaletteRow& row, const QString& text, CZqVariant& value, QString* why = nullptr) const;
+  // Edits refused by setters since the process started, over every service
+  // (programs turn this into their exit status).
+  static int RefusedEdits();
   // The text the palette shows for a value of a row.
   static CZqString FormatValue(const OdDbDatabase* db, const CZqVariant& value, const CZqCustomPropertyType& type);
 
