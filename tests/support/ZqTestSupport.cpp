@@ -116,7 +116,6 @@ ZqRecordingObserver::~ZqRecordingObserver() { odrxRemoveSystemObserver(this); }
 
 namespace {
 std::string nameOf(const OdRxClass* c) { return c ? c->name().toStdString() : std::string("(null)"); }
-std::string nameOf(const OdRxObject* o) { return o && o->isA() ? o->isA()->name().toStdString() : std::string("(null)"); }
 }  // namespace
 
 void ZqRecordingObserver::classAdded(const OdRxClass* c) { events.push_back("class+ " + nameOf(c)); }
