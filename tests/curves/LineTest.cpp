@@ -245,7 +245,9 @@ TEST_F(LineTest, InformationLinesWithAndWithoutUcs) {
     const QVariantList from = infoLine(lines, "from point")->value.toList();
     EXPECT_NEAR(from[0].toDouble(), ws.x, 1e-9);
     EXPECT_NEAR(from[1].toDouble(), ws.y, 1e-9);
-    if (inUcs) EXPECT_NEAR(infoLine(lines, "Length in CCS")->value.toDouble(), 5.0, 1e-9);
+    if (inUcs) {
+      EXPECT_NEAR(infoLine(lines, "Length in CCS")->value.toDouble(), 5.0, 1e-9);
+    }
   }
 }
 

@@ -30,7 +30,9 @@ TEST_F(ProviderRulesTest, ClassesWithoutARowFallBackToTheirNearestAttachedParent
     EXPECT_EQ(pe->isA()->name().toStdString(), c.provider) << c.cls->name().toStdString();
     CZqPrintObjectInfoPE* info = zqInfoFor(e.get());
     ASSERT_NE(info, nullptr);
-    if (*c.info) EXPECT_EQ(info->isA()->name().toStdString(), c.info);
+    if (*c.info) {
+      EXPECT_EQ(info->isA()->name().toStdString(), c.info);
+    }
   }
   // The generic information provider prints only the general lines.
   OdDbEntityPtr wipeout = OdDbEntity::cast(OdDbWipeout::desc()->create().get());
@@ -177,8 +179,9 @@ TEST_F(ProviderRulesTest, EveryRowOfEveryProviderIsWellFormed) {
       EXPECT_EQ(QString(d->GetDarkIcon().qstring()).replace("/dark/", "/light/"), d->GetLightIcon().qstring()) << where;
       EXPECT_TRUE(d->GetIcon().isEmpty()) << where;
       EXPECT_TRUE(d->GetDescription().isEmpty()) << where;
-      if (d->GetIsReadOnlyMethod() == &CZqCustomPropertyPE::IsReadOnlyTrue && !d->IsDynamic())
+      if (d->GetIsReadOnlyMethod() == &CZqCustomPropertyPE::IsReadOnlyTrue && !d->IsDynamic()) {
         EXPECT_EQ(d->GetSetMethod(), nullptr) << where;
+      }
       // Getters answer something for an object of their class.
       (void)d->GetValue(open.get(), CZqVariant());
     }

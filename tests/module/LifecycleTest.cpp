@@ -227,7 +227,9 @@ TEST_P(LifecycleTest, StartupAndTeardownFollowTheirOrders) {
   ASSERT_TRUE(present.propertyRows.count("OdDbEntity") && present.propertyRows.count("OdDbLine"));
   ASSERT_TRUE(present.infoRows.count("OdDbEntity") && present.infoRows.count("OdDbLine"));
   EXPECT_EQ(startup.events, expectedStartup(present, pdf));
-  if (!pdf) EXPECT_FALSE(present.propertyRows.count("OdDbPdfReference") || present.infoRows.count("OdDbPdfReference"));
+  if (!pdf) {
+    EXPECT_FALSE(present.propertyRows.count("OdDbPdfReference") || present.infoRows.count("OdDbPdfReference"));
+  }
 
   ZqRecordingObserver teardown;
   ASSERT_TRUE(odrxDynamicLinker()->unloadModule("ZQProperties"));

@@ -159,7 +159,9 @@ TEST(ColorTest, ParsesWhatUsersTypeAndNamesColours) {
   for (const Case& c : cases) {
     OdCmColor color;
     EXPECT_EQ(OdCmColor::parse(c.text, color), c.ok) << c.text;
-    if (c.ok) EXPECT_EQ(color.description().toStdString(), c.description) << c.text;
+    if (c.ok) {
+      EXPECT_EQ(color.description().toStdString(), c.description) << c.text;
+    }
   }
   uint8_t r, g, b;
   OdCmColor::paletteRGB(10, r, g, b);
