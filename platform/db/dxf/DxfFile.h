@@ -43,8 +43,10 @@ class DB_API File {
  public:
   enum class Form { AsRead, Ascii, Binary };
 
-  // Parses a DXF file held in memory. On failure returns false with `error`
-  // set ("line 12: group code expected, found 'abc'") and `out` untouched.
+  // Parses a DXF file held in memory. The bytes are shared, not copied: tags
+  // view into them (so `bytes` must own its data, not be fromRawData()).
+  // On failure returns false with `error` set ("line 12: group code
+  // expected, found 'abc'") and `out` untouched.
   static bool read(const QByteArray& bytes, File& out, QString& error, QStringList* warnings = nullptr);
   static bool load(const QString& path, File& out, QString& error, QStringList* warnings = nullptr);
 

@@ -80,6 +80,8 @@ struct Access {
   static int post(const Tag& t) { return (t.m_bits >> Tag::kPostShift) & 3; }
   static const char* begin(const Tag& t) { return t.m_value - t.m_pre; }
   static const char* end(const Tag& t) { return t.m_value + t.m_size + post(t); }
+  // An ASCII tag whose value line is complete, so another line may follow.
+  static bool endsLine(const Tag& t) { return post(t) > 0 && end(t)[-1] == '\n'; }
 
   static Record record(const Tag* b, const Tag* e, const QByteArray& source, const Format& f) {
     Record r;

@@ -364,7 +364,7 @@ bool Reader::build(File& out) {
   }
   if (!haveEof) {
     if (result.sections().isEmpty()) return fail(m_end, QStringLiteral("not a DXF file: no SECTION and no EOF"));
-    if (!m_binary && Access::post(T[n - 1]) == 0)
+    if (!m_binary && m_end[-1] != '\n')
       return fail(m_end, QStringLiteral("file ends in the middle of a line, EOF missing (file truncated?)"));
     warn(m_end, QStringLiteral("EOF missing at the end of the file; added"));
     result.eof() = Access::synthesized(f, "EOF");

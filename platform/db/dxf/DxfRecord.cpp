@@ -77,7 +77,7 @@ bool Record::store(int index, QByteArrayView value, bool keepPrefix) {
       buf.append('\0');
       post = 1;
     }
-  } else if (sameForm && Access::post(old) > 0) {
+  } else if (sameForm) {  // the writer ends a last line that had no line end
     post = Access::post(old);
     buf.append(Access::end(old) - post, post);
   } else {
@@ -113,12 +113,15 @@ bool Record::store(int index, QByteArrayView value, bool keepPrefix) {
 
 bool Record::storeNumber(int index, const QByteArray& text, const char* binary, int binarySize) {
   if (m_format.binary) return store(index, QByteArrayView(binary, binarySize), true);
-  // Right-align to the width of the old value if it was right-aligned.
+  // Right-align to the width of the old value if it was right-aligned, or
+  // if it filled the columns the file right-aligns integers to ("-32768").
   const Tag& old = m_tags[index];
   qsizetype width = 0;
   if (!old.isBinaryForm() && old.m_size > 0 && detail::isBlank(old.m_value[0])) {
     width = old.m_size;
     while (width > 0 && detail::isBlank(old.m_value[width - 1])) --width;
+  } else if (!old.isBinaryForm() && m_format.padInts && old.m_size == detail::intWidth(old.type())) {
+    width = old.m_size;
   }
   if (width <= text.size()) return store(index, text, true);
   return store(index, QByteArray(width - text.size(), ' ') + text, true);
@@ -212,7 +215,7 @@ bool Record::insertCopy(int index, const Tag& tag) {
   if (index < 0 || index > size() || !tag.m_value) return false;
   const bool bin = m_format.binary;
   const bool sameForm = tag.isBinaryForm() == bin && (!bin || detail::hasShortCode(tag) == m_format.shortCodes);
-  if (sameForm && (bin || Access::post(tag) > 0)) {
+  if (sameForm && (bin || Access::endsLine(tag))) {
     m_own.append(QByteArray(Access::begin(tag), Access::end(tag) - Access::begin(tag)));
     const QByteArray& b = m_own.constLast();
     m_tags.insert(index, Access::make(b.constData() + Access::pre(tag), tag.m_size, tag.code(), Access::pre(tag),

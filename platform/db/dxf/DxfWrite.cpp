@@ -48,7 +48,7 @@ class Writer {
         m_runBegin = b;
       }
       m_runEnd = e;
-      m_needEol = !bin && Access::post(t) == 0;
+      m_needEol = !bin && !Access::endsLine(t);
       return;
     }
     flush();
