@@ -23,6 +23,15 @@ constexpr OdPseudoConstructorType pseudoConstructor() {
 #define ODDB_DEFINE_CREATE(Class) \
   OdSmartPtr<Class> Class::createObject() { return OdSmartPtr<Class>(new Class()); }
 ODDB_DEFINE_CREATE(OdDbLine)
+ODDB_DEFINE_CREATE(OdDbCircle)
+ODDB_DEFINE_CREATE(OdDbEllipse)
+ODDB_DEFINE_CREATE(OdDbSpline)
+ODDB_DEFINE_CREATE(OdDbPolyline)
+ODDB_DEFINE_CREATE(OdDb2dPolyline)
+ODDB_DEFINE_CREATE(OdDb2dVertex)
+ODDB_DEFINE_CREATE(OdDbRay)
+ODDB_DEFINE_CREATE(OdDbXline)
+ODDB_DEFINE_CREATE(OdDbPoint)
 ODDB_DEFINE_CREATE(OdDbLayerTableRecord)
 ODDB_DEFINE_CREATE(OdDbLinetypeTableRecord)
 ODDB_DEFINE_CREATE(OdDbTextStyleTableRecord)

@@ -4,6 +4,14 @@
 // extensions are found through it), and so that the file reader can keep
 // such objects whole.
 #include "DbLine.h"
+#include "DbCircle.h"
+#include "DbEllipse.h"
+#include "DbSpline.h"
+#include "DbPolyline.h"
+#include "Db2dPolyline.h"
+#include "DbPoint.h"
+#include "DbRay.h"
+#include "DbXline.h"
 #include "DbSymbolTable.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
