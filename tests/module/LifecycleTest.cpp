@@ -277,9 +277,11 @@ TEST(ModuleTest, EntryPointsAnswerTheApiVersionAndOneModuleObject) {
   int v[4] = {-1, -1, -1, -1};
   version(v[0], v[1], v[2], v[3]);
   EXPECT_EQ(std::vector<int>(v, v + 4), (std::vector<int>{26, 8, 0, 54832}));
-  OdRxModule* first = create();
-  EXPECT_EQ(create(), first);
+  OdRxModulePtr first(create());
+  EXPECT_EQ(create(), first.get());
   EXPECT_TRUE(first->appName().qstring().endsWith("ZQProperties.so"));
+  // The last reference destroys the module object before its library goes.
+  first.release();
   dlclose(h);
 }
 
