@@ -175,6 +175,14 @@ TEST(DxfEdit, RecordsOutliveTheirFileAndMoveBetweenForms) {
   EXPECT_EQ(moved.real(), copy.at(copy.find(10)).real());
 }
 
+TEST(DxfEdit, ALastLineWithoutLineEndGetsOneWhenMoved) {
+  File f;
+  QString error;
+  ASSERT_TRUE(File::read("0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF", f, error));
+  f.section("ENTITIES")->records.append(f.eof());  // the last line, now followed by ENDSEC
+  EXPECT_EQ(f.write(), "0\nSECTION\n2\nENTITIES\n0\nEOF\n0\nENDSEC\n0\nEOF");
+}
+
 TEST(DxfEdit, HandlesHeaderAndStrings) {
   File f = loadSample("libredwg__test__test-data__2000__TS1.dxf");
   ASSERT_NE(f.headerVariable("ACADVER"), nullptr);
