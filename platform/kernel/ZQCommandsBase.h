@@ -5,6 +5,8 @@
 #include "EdCommandStack.h"
 #include "ZqPropertiesKernel.h"
 #include "DbDatabase.h"
+#include "CZqCloudBase.h"
+#include "CZqDocument.h"
 #include <vector>
 
 // Base of the host's commands: the command group, error handling around the
