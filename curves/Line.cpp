@@ -59,23 +59,21 @@ constexpr auto editable = &CZqCustomPropertyPE::IsReadOnlyFalse;
 constexpr auto readOnly = &CZqCustomPropertyPE::IsReadOnlyTrue;
 using T = CZqPropertyType;
 
-#define ZQ_NAME(s) QT_TRANSLATE_NOOP("property_types", s)
 const ZqRow kRows[] = {
-//  category     name                  type identifier           read-only get           set              icon     visibility
-  {ZQ_GENERAL,  ZQ_NAME("Thickness"), 0, nullptr,              editable, getThickness, setThickness,     nullptr, kVisOr4},
-  {ZQ_GEOMETRY, ZQ_NAME("Start X"),   2, T::kCoordinateXGUID,  editable, getStart<0>,  setStart<0>,      nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("Start Y"),   2, T::kCoordinateYGUID,  editable, getStart<1>,  setStart<1>,      nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("Start Z"),   2, T::kCoordinateZGUID,  editable, getStart<2>,  setStart<2>,      nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("End X"),     2, T::kCoordinateXGUID,  editable, getEnd<0>,    setEnd<0>,        nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("End Y"),     2, T::kCoordinateYGUID,  editable, getEnd<1>,    setEnd<1>,        nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("End Z"),     2, T::kCoordinateZGUID,  editable, getEnd<2>,    setEnd<2>,        nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("Delta X"),   2, T::kCoordinateXGUID,  readOnly, getDelta<0>,  nullptr,          nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("Delta Y"),   2, T::kCoordinateYGUID,  readOnly, getDelta<1>,  nullptr,          nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("Delta Z"),   2, T::kCoordinateZGUID,  readOnly, getDelta<2>,  nullptr,          nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("Length"),    0, nullptr,              readOnly, getLength,    nullptr,          nullptr, kVisKeep},
-  {ZQ_GEOMETRY, ZQ_NAME("Angle"),     2, T::kOrientGUID,       readOnly, getAngle,     nullptr,          nullptr, kVisKeep},
+//  category     name                                            type identifier           read-only get           set              icon     visibility
+  {ZQ_GENERAL,  QT_TRANSLATE_NOOP("property_types", "Thickness"), 0, nullptr,              editable, getThickness, setThickness,     nullptr, kVisOr4},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Start X"),   2, T::kCoordinateXGUID,  editable, getStart<0>,  setStart<0>,      nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Start Y"),   2, T::kCoordinateYGUID,  editable, getStart<1>,  setStart<1>,      nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Start Z"),   2, T::kCoordinateZGUID,  editable, getStart<2>,  setStart<2>,      nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "End X"),     2, T::kCoordinateXGUID,  editable, getEnd<0>,    setEnd<0>,        nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "End Y"),     2, T::kCoordinateYGUID,  editable, getEnd<1>,    setEnd<1>,        nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "End Z"),     2, T::kCoordinateZGUID,  editable, getEnd<2>,    setEnd<2>,        nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Delta X"),   2, T::kCoordinateXGUID,  readOnly, getDelta<0>,  nullptr,          nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Delta Y"),   2, T::kCoordinateYGUID,  readOnly, getDelta<1>,  nullptr,          nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Delta Z"),   2, T::kCoordinateZGUID,  readOnly, getDelta<2>,  nullptr,          nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Length"),    0, nullptr,              readOnly, getLength,    nullptr,          nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Angle"),     2, T::kOrientGUID,       readOnly, getAngle,     nullptr,          nullptr, kVisKeep},
 };
-#undef ZQ_NAME
 
 }  // namespace
 

@@ -14,7 +14,6 @@ const OdString CZqCommandMinusProperties::localName() const {
 
 namespace {
 
-QString tr(const char* text) { return QCoreApplication::translate("CZqCommandMinusProperties", text); }
 
 // A keyword answer: the whole word or its capital letters ("L" for "List",
 // "X" for "eXit"), without regard to case.
@@ -57,7 +56,7 @@ OdDbObjectIdArray selectionFor(OdDbDatabase* db, const QString& answer) {
 void listRows(OdEdCommandContext* ctx, const std::vector<CZqPaletteRow>& rows) {
   for (const CZqPaletteRow& r : rows) {
     QString line = QString("  %1/%2: %3").arg(r.category.qstring(), r.name.qstring(), r.text.qstring());
-    if (r.readOnly) line += "  " + tr("(read-only)");
+    if (r.readOnly) line += "  " + QCoreApplication::translate("CZqCommandMinusProperties", "(read-only)");
     ctx->putString(OdString(line));
   }
 }
@@ -71,15 +70,15 @@ void CZqCommandMinusProperties::ExecuteCommand(OdEdCommandContext* ctx) {
 
   OdDbObjectIdArray selection;
   for (;;) {
-    const QString answer = ctx->getString(OdString(tr("Select objects:"))).qstring().trimmed();
+    const QString answer = ctx->getString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "Select objects:"))).qstring().trimmed();
     if (answer.isEmpty()) break;
     const OdDbObjectIdArray found = selectionFor(db, answer);
     for (const OdDbObjectId& id : found)
       if (!selection.contains(id)) selection.append(id);
-    ctx->putString(OdString(tr("%1 found, %2 total").arg(found.size()).arg(selection.size())));
+    ctx->putString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "%1 found, %2 total").arg(found.size()).arg(selection.size())));
   }
   if (selection.isEmpty()) {
-    ctx->putString(OdString(tr("Nothing selected.")));
+    ctx->putString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "Nothing selected.")));
     return;
   }
   service.SetSelection(selection);
@@ -87,7 +86,7 @@ void CZqCommandMinusProperties::ExecuteCommand(OdEdCommandContext* ctx) {
   for (;;) {
     const std::vector<CZqPaletteRow> rows = service.Rows();
     const QString answer =
-        ctx->getString(OdString(tr("Enter property name or [List/eXit] <eXit>:"))).qstring().trimmed();
+        ctx->getString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "Enter property name or [List/eXit] <eXit>:"))).qstring().trimmed();
     if (answer.isEmpty() || isKeyword(answer, "eXit")) return;
     if (isKeyword(answer, "List")) {
       listRows(ctx, rows);
@@ -100,10 +99,10 @@ void CZqCommandMinusProperties::ExecuteCommand(OdEdCommandContext* ctx) {
       continue;
     }
     if (row->readOnly) {
-      ctx->putString(OdString(tr("%1 is read-only.").arg(row->name.qstring())));
+      ctx->putString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "%1 is read-only.").arg(row->name.qstring())));
       continue;
     }
-    const QString typed = ctx->getString(OdString(tr("Enter new value for %1 <%2>:").arg(row->name.qstring(), row->text.qstring()))).qstring();
+    const QString typed = ctx->getString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "Enter new value for %1 <%2>:").arg(row->name.qstring(), row->text.qstring()))).qstring();
     if (typed.trimmed().isEmpty()) continue;  // keep the current value
     CZqVariant value;
     if (!service.ParseValue(*row, typed, value, &why)) {
@@ -112,8 +111,8 @@ void CZqCommandMinusProperties::ExecuteCommand(OdEdCommandContext* ctx) {
     }
     for (const CZqEditResult& r : service.SetValue(row->category, row->name, value)) {
       if (r.code == kZqSetRefused) {
-        ctx->putString(OdString(tr("Refused for %1: %2").arg(r.id.getHandle().ascii().qstring(),
-                                                               r.message.isEmpty() ? tr("invalid value") : r.message.qstring())));
+        ctx->putString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "Refused for %1: %2").arg(r.id.getHandle().ascii().qstring(),
+                                                               r.message.isEmpty() ? QCoreApplication::translate("CZqCommandMinusProperties", "invalid value") : r.message.qstring())));
       }
     }
   }

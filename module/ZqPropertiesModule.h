@@ -5,7 +5,12 @@
 #include "RxModule.h"
 #include "MinusProperties.h"
 #include "ZqEntityExPE.h"
+#include "Circle.h"
 #include "Line.h"
+#include "Point.h"
+#include "Polyline.h"
+#include "Ray.h"
+#include "Xline.h"
 
 #include <vector>
 

@@ -7,7 +7,6 @@
 ODRX_DEFINE_MEMBERS(CZqPrintObjectInfoPE, OdRxObject)
 
 namespace {
-QString tr(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
 QVariantList numbers(std::initializer_list<double> v) {
   QVariantList l;
   for (double d : v) l.append(d);
@@ -76,7 +75,7 @@ void CZqPrintInfoContext::PrintInt(const CZqString& label, int value) {
 }
 
 void CZqPrintInfoContext::PrintBool(const CZqString& label, bool value) {
-  add(label, kBool, value, value ? tr("info_values", "Yes") : tr("info_values", "No"));
+  add(label, kBool, value, value ? QCoreApplication::translate("info_values", "Yes") : QCoreApplication::translate("info_values", "No"));
 }
 
 void CZqPrintInfoContext::PrintString(const CZqString& label, const CZqString& value) {
@@ -125,8 +124,8 @@ CZqString CZqPrintObjectInfoPE::GetClassName(const OdDbObject* object) const {
 
 void CZqPrintObjectInfoPE::PrintObjectHeader(const OdDbObject* object, CZqPrintInfoContext* context) {
   if (!object || !context) return;
-  context->PrintString(tr("info_items", "Class name"), GetClassName(object));
-  context->PrintString(tr("info_items", "Handle"), CZqString(object->getDbHandle().ascii()));
+  context->PrintString(QCoreApplication::translate("info_items", "Class name"), GetClassName(object));
+  context->PrintString(QCoreApplication::translate("info_items", "Handle"), CZqString(object->getDbHandle().ascii()));
 }
 
 void CZqPrintObjectInfoPE::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) {
@@ -134,15 +133,15 @@ void CZqPrintObjectInfoPE::PrintObjectInfo(const OdDbObject* object, CZqPrintInf
   PrintObjectHeader(object, context);
   const OdDbEntity* entity = odrxCast<OdDbEntity>(object);
   if (!entity) return;
-  context->PrintString(tr("info_items", "Layer"), CZqString(entity->layer()));
-  QString space = tr("info_values", "Block");
+  context->PrintString(QCoreApplication::translate("info_items", "Layer"), CZqString(entity->layer()));
+  QString space = QCoreApplication::translate("info_values", "Block");
   if (OdDbObjectPtr owner = entity->ownerId().openObject()) {
     if (auto btr = OdDbBlockTableRecord::cast(owner.get())) {
-      if (btr->isModelSpace()) space = tr("info_values", "Model space");
-      else if (btr->isPaperSpace()) space = tr("info_values", "Paper space");
+      if (btr->isModelSpace()) space = QCoreApplication::translate("info_values", "Model space");
+      else if (btr->isPaperSpace()) space = QCoreApplication::translate("info_values", "Paper space");
     }
   }
-  context->PrintString(tr("info_items", "Space"), CZqString(space));
-  context->PrintString(tr("info_items", "Color"), CZqString(entity->color().description()));
-  context->PrintString(tr("info_items", "Linetype"), CZqString(entity->linetype()));
+  context->PrintString(QCoreApplication::translate("info_items", "Space"), CZqString(space));
+  context->PrintString(QCoreApplication::translate("info_items", "Color"), CZqString(entity->color().description()));
+  context->PrintString(QCoreApplication::translate("info_items", "Linetype"), CZqString(entity->linetype()));
 }

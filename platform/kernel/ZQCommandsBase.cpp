@@ -199,7 +199,6 @@ CZqString CZqPropertiesWindowService::FormatValue(const OdDbDatabase* db, const 
 }
 
 namespace {
-QString errorText(const char* text) { return QCoreApplication::translate("errors", text); }
 
 // The symbol table an object-id row picks its records from.
 OdDbObjectId tableForIdRow(const OdDbDatabase* db, const QString& typeId) {
@@ -241,11 +240,11 @@ bool CZqPropertiesWindowService::ParseValue(const CZqPaletteRow& row, const QStr
   if (kind == CZqVariant::kVtEmpty) kind = row.type.GetType();
   switch (kind) {
     case CZqVariant::kVtDouble: {
-      if (!m_db) return fail(errorText("No drawing."));
+      if (!m_db) return fail(QCoreApplication::translate("errors", "No drawing."));
       double v = 0;
       const OdDbUnitsFormatter f = m_db->formatter();
       const bool ok = CZqPropertyType::isAngle(typeId) ? f.parseAngle(OdString(text), v) : f.parseDistance(OdString(text), v);
-      if (!ok) return fail(errorText("Invalid input.") + " " + text);
+      if (!ok) return fail(QCoreApplication::translate("errors", "Invalid input.") + " " + text);
       value = CZqVariant(v, true);
       return true;
     }
@@ -257,13 +256,13 @@ bool CZqPropertiesWindowService::ParseValue(const CZqPaletteRow& row, const QStr
       bool ok = false;
       if (typeId == QLatin1String(CZqPropertyType::kLineweightGUID)) ok = parseLineweight(text, v);
       else v = text.toInt(&ok);
-      if (!ok) return fail(errorText("Invalid input.") + " " + text);
+      if (!ok) return fail(QCoreApplication::translate("errors", "Invalid input.") + " " + text);
       value = CZqVariant(v);
       return true;
     }
     case CZqVariant::kVtColor: {
       OdCmColor c;
-      if (!OdCmColor::parse(OdString(text), c)) return fail(errorText("Invalid input.") + " " + text);
+      if (!OdCmColor::parse(OdString(text), c)) return fail(QCoreApplication::translate("errors", "Invalid input.") + " " + text);
       value = CZqVariant(c);
       return true;
     }
@@ -278,21 +277,21 @@ bool CZqPropertiesWindowService::ParseValue(const CZqPaletteRow& row, const QStr
       bool ok = false;
       const int n = text.toInt(&ok);
       const int at = ok ? choices.FindTag(n) : -1;
-      if (at < 0) return fail(errorText("Invalid input.") + " " + text);
+      if (at < 0) return fail(QCoreApplication::translate("errors", "Invalid input.") + " " + text);
       value = CZqVariant(choices.GetAt(at));
       return true;
     }
     case CZqVariant::kVtId: {
-      if (!m_db) return fail(errorText("No drawing."));
+      if (!m_db) return fail(QCoreApplication::translate("errors", "No drawing."));
       OdDbObjectPtr table = tableForIdRow(m_db, typeId).openObject();
       auto t = OdDbSymbolTable::cast(table.get());
       const OdDbObjectId id = t ? t->getAt(OdString(text)) : OdDbObjectId();
-      if (id.isNull()) return fail(errorText("No such name:") + " " + text);
+      if (id.isNull()) return fail(QCoreApplication::translate("errors", "No such name:") + " " + text);
       value = CZqVariant(id);
       return true;
     }
     default:
-      return fail(errorText("The property cannot be set from text."));
+      return fail(QCoreApplication::translate("errors", "The property cannot be set from text."));
   }
 }
 

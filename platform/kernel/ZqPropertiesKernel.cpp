@@ -104,10 +104,9 @@ bool CZqCustomPropertyPE::IsReadOnlyTrue(const OdDbObject*, const CZqPropertyDes
 
 namespace {
 
-QString tr(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
 
 int refuse(const char* message) {
-  GetZqSystemServices()->MessageBox(tr("errors", message), tr("errors", "Error"));
+  GetZqSystemServices()->MessageBox(QCoreApplication::translate("errors", message), QCoreApplication::translate("errors", "Error"));
   return kZqSetRefused;
 }
 
@@ -146,7 +145,7 @@ CZqVariant getLayer(const OdDbObject* o, const CZqPropertyDescription&, const CZ
 int setLayer(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtId) return kZqSetRefused;
-  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLayerTableId)) return refuse("Invalid input.");
+  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLayerTableId)) return refuse(QT_TRANSLATE_NOOP("errors", "Invalid input."));
   e->setLayer(v.GetId());
   return kZqSetApplied;
 }
@@ -158,7 +157,7 @@ CZqVariant getLinetype(const OdDbObject* o, const CZqPropertyDescription&, const
 int setLinetype(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtId) return kZqSetRefused;
-  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLinetypeTableId)) return refuse("Invalid input.");
+  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLinetypeTableId)) return refuse(QT_TRANSLATE_NOOP("errors", "Invalid input."));
   e->setLinetype(v.GetId());
   return kZqSetApplied;
 }
@@ -170,7 +169,7 @@ CZqVariant getLtScale(const OdDbObject* o, const CZqPropertyDescription&, const 
 int setLtScale(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtDouble) return kZqSetRefused;
-  if (!(v.GetDouble() > 1e-10)) return refuse("Value must be positive");
+  if (!(v.GetDouble() > 1e-10)) return refuse(QT_TRANSLATE_NOOP("errors", "Value must be positive"));
   e->setLinetypeScale(v.GetDouble());
   return kZqSetApplied;
 }
@@ -197,7 +196,7 @@ CZqVariant getLineweight(const OdDbObject* o, const CZqPropertyDescription&, con
 int setLineweight(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtInt32) return kZqSetRefused;
-  if (!OdDb::isValidLineWeight(v.GetInt32())) return refuse("Invalid input.");
+  if (!OdDb::isValidLineWeight(v.GetInt32())) return refuse(QT_TRANSLATE_NOOP("errors", "Invalid input."));
   e->setLineWeight(OdDb::LineWeight(v.GetInt32()));
   return kZqSetApplied;
 }
@@ -215,7 +214,7 @@ int setTransparency(const OdDbObject* o, const CZqPropertyDescription&, const CZ
   else {
     bool ok = false;
     const int percent = s.toInt(&ok);
-    if (!ok || percent < 0 || percent > 90) return refuse("Invalid input.");
+    if (!ok || percent < 0 || percent > 90) return refuse(QT_TRANSLATE_NOOP("errors", "Invalid input."));
     e->setTransparency(OdCmTransparency::fromPercent(percent));
   }
   return kZqSetApplied;
@@ -250,14 +249,14 @@ struct GeneralRow {
 
 //  name              icon             type  identifier                           get              set
 const GeneralRow kGeneralRows[] = {
-    {"Color",          "Color",          5, nullptr,                             getColor,        setColor},
-    {"Layer",          "Layer",          8, CZqPropertyType::kLayerGUID,         getLayer,        setLayer},
-    {"Linetype",       "Linetype",       8, CZqPropertyType::kLinetypeGUID,      getLinetype,     setLinetype},
-    {"Linetype scale", "LinetypeScale",  2, nullptr,                             getLtScale,      setLtScale},
-    {"Plot style",     "PlotStyle",      3, CZqPropertyType::kPlotStyleGUID,     getPlotStyle,    setPlotStyle},
-    {"Lineweight",     "Lineweight",     4, CZqPropertyType::kLineweightGUID,    getLineweight,   setLineweight},
-    {"Transparency",   "Transparency",   3, CZqPropertyType::kTransparencyGUID,  getTransparency, setTransparency},
-    {"Hyperlink",      "Hyperlink",      3, CZqPropertyType::kHyperlinkGUID,     getHyperlink,    setHyperlink},
+    {QT_TRANSLATE_NOOP("property_types", "Color"),          "Color",          5, nullptr,                             getColor,        setColor},
+    {QT_TRANSLATE_NOOP("property_types", "Layer"),          "Layer",          8, CZqPropertyType::kLayerGUID,         getLayer,        setLayer},
+    {QT_TRANSLATE_NOOP("property_types", "Linetype"),       "Linetype",       8, CZqPropertyType::kLinetypeGUID,      getLinetype,     setLinetype},
+    {QT_TRANSLATE_NOOP("property_types", "Linetype scale"), "LinetypeScale",  2, nullptr,                             getLtScale,      setLtScale},
+    {QT_TRANSLATE_NOOP("property_types", "Plot style"),     "PlotStyle",      3, CZqPropertyType::kPlotStyleGUID,     getPlotStyle,    setPlotStyle},
+    {QT_TRANSLATE_NOOP("property_types", "Lineweight"),     "Lineweight",     4, CZqPropertyType::kLineweightGUID,    getLineweight,   setLineweight},
+    {QT_TRANSLATE_NOOP("property_types", "Transparency"),   "Transparency",   3, CZqPropertyType::kTransparencyGUID,  getTransparency, setTransparency},
+    {QT_TRANSLATE_NOOP("property_types", "Hyperlink"),      "Hyperlink",      3, CZqPropertyType::kHyperlinkGUID,     getHyperlink,    setHyperlink},
 };
 
 }  // namespace
@@ -265,15 +264,15 @@ const GeneralRow kGeneralRows[] = {
 CZqEntityPE::CZqEntityPE() = default;
 CZqEntityPE::~CZqEntityPE() = default;
 
-CZqString CZqEntityPE::GetClassName(const OdDbObject*) const { return tr("entity_types", "Entity"); }
+CZqString CZqEntityPE::GetClassName(const OdDbObject*) const { return QCoreApplication::translate("entity_types", "Entity"); }
 
 const OdArray<CZqPropertyDescription*>& CZqEntityPE::GeneralRows() {
   static const OdArray<CZqPropertyDescription*> rows = [] {
     OdArray<CZqPropertyDescription*> list;
     for (const GeneralRow& r : kGeneralRows) {
       auto* d = CZqCustomPropertyDescription::CreateStatic();
-      d->SetCategory(tr("property_groups", "General"));
-      d->SetName(tr("property_types", r.name));
+      d->SetCategory(QCoreApplication::translate("property_groups", "General"));
+      d->SetName(QCoreApplication::translate("property_types", r.name));
       d->SetType(CZqCustomPropertyType(r.type, r.guid ? CZqString(r.guid) : CZqString()));
       d->PutGetMethod(r.get);
       d->PutSetMethod(r.set);
