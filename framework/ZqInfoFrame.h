@@ -17,3 +17,11 @@ inline OdGePoint3d ZqWorkingPoint(CZqPrintInfoContext* context, const OdGePoint3
   return context->IsPrintInUCS() ? context->GetWorldToWorkingPlaneMatrix() * p : p;
 }
 
+// The angle of a WCS direction in the XY plane of the listing's working
+// plane, in [0, 2pi); 0 for a direction perpendicular to that plane.
+inline double ZqAngleInXYPlane(CZqPrintInfoContext* context, const OdGeVector3d& wcsDirection) {
+  const OdGeVector3d d = context->IsPrintInUCS() ? context->GetWorldToWorkingPlaneMatrix() * wcsDirection : wcsDirection;
+  if (std::hypot(d.x, d.y) <= 1e-10) return 0;
+  const double a = std::atan2(d.y, d.x);
+  return a < 0 ? a + Oda2PI : a;
+}

@@ -1,0 +1,13 @@
+#pragma once
+#include "ZqRows.h"
+#include "KVKernel.h"
+
+// Properties of rays: base point, second point and direction in the current UCS.
+class CZqRayPE : public CZqEntityPE {
+  ZQ_DECLARE_PROVIDER(CZqRayPE);
+};
+
+class CZqRayInfo : public CZqPrintObjectInfoPE {
+ public:
+  void PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) override;
+};
