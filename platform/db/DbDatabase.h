@@ -128,6 +128,12 @@ class DB_API OdDbDatabase : public OdRxObject {
   OdString originalFileVersion() const { return m_fileVersion; }
   void setOriginalFileVersion(const OdString& v) { m_fileVersion = v; }
 
+  // What the drawing-file reader keeps with the database to write the
+  // drawing back as it was read (the file's records and which object each
+  // belongs to). Opaque to the database; released with it.
+  OdRxObject* fileData() const { return m_fileData.get(); }
+  void setFileData(OdRxObject* data) { m_fileData = data; }
+
  private:
   void buildDefaults();
   OdDbObjectId tableRecord(const OdDbObjectId& table, const char* name) const;
@@ -145,6 +151,7 @@ class DB_API OdDbDatabase : public OdRxObject {
   OdGePoint3d m_ucsOrg;
   OdGeVector3d m_ucsX{1, 0, 0}, m_ucsY{0, 1, 0};
   OdString m_fileVersion;
+  OdRxObjectPtr m_fileData;
 };
 using OdDbDatabasePtr = OdSmartPtr<OdDbDatabase>;
 

@@ -1,0 +1,49 @@
+#pragma once
+// A DXF drawing read into a drawing database, and the database written back.
+//
+// Reading builds a new database from a DXF file: the header variables the
+// platform models, the symbol tables (layers, linetypes, text styles,
+// dimension styles, applications, blocks) and every entity, each as an
+// object of the drawing class its DXF name names, in file order, with the
+// file's handles. The database keeps the file it was read from (see
+// OdDbDatabase::fileData), so that writing it back changes only what was
+// edited:
+//   * an object that was not modified is written tag for tag as it was read;
+//   * a modified object changes only in the tags of the values that differ
+//     from the ones its record holds (a tag the record lacks is inserted in
+//     its place);
+//   * erased objects lose their records; objects added since reading get new
+//     records with fresh handles, and $HANDSEED follows;
+//   * everything the platform does not model (other sections, objects,
+//     unknown entities, extension dictionaries, other applications' extended
+//     data, comments) is written as it was read.
+//
+// A file that is not DXF, is truncated or malformed is refused with one
+// message naming the line (ASCII) or byte offset (binary) where reading
+// failed; nothing is half-read. Repairs that lose nothing (a duplicate handle
+// given a fresh one, $HANDSEED raised above the handles in use, a missing
+// ENDSEC or EOF) are made and reported as warnings; they are written back.
+#include "DbDatabase.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace OdDxf {
+
+// Reads a DXF drawing into a new database. Refuses (null + error naming the
+// line or byte offset and what is wrong) a file that is not DXF, is truncated
+// or malformed; never returns a silently empty drawing. Safe repairs come
+// back as warnings.
+DB_API OdDbDatabasePtr readDrawing(const QString& path, QString& error, QStringList* warnings = nullptr);
+DB_API OdDbDatabasePtr readDrawing(const QByteArray& bytes, QString& error, QStringList* warnings = nullptr);
+
+// Writes the database back in the release and form (ASCII/binary) it was read
+// from; a database not read from a file is written as ASCII AC1015. Saving
+// goes through a temporary file renamed over the target, so a failed save
+// leaves an existing file whole. On success the objects count as saved
+// (isModified() false).
+DB_API bool writeDrawing(OdDbDatabase* db, const QString& path, QString& error);
+DB_API QByteArray writeDrawing(OdDbDatabase* db, QString* error = nullptr);
+
+}  // namespace OdDxf

@@ -1,0 +1,367 @@
+#pragma once
+// The mapping between DXF records and database objects. Not installed.
+//
+// One list of fields per drawing class says which group codes hold which of
+// the class's values, in the order the DXF reference lists them. The same
+// list serves three directions (RecordIO::Mode):
+//   Read    the record's tags set the object's values;
+//   Patch   the values of an edited object that differ from the ones its
+//           record holds are written into the record (a record is re-read
+//           into a scratch object of the same class - `before` - so that a
+//           value counts as unchanged exactly when reading the tags gives it
+//           back);
+//   Create  a record made for a new object receives every value.
+// A tag the record lacks is inserted after the tags of the fields listed
+// before it, so new tags land where the DXF reference puts them.
+#include "DxfFile.h"
+#include "DbDatabase.h"
+#include "DbEntity.h"
+#include "DbSymbolTable.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <cmath>
+#include <functional>
+#include <type_traits>
+
+namespace OdDxf::mapping {
+
+// Thrown by reading code for a malformed value; readDrawing turns it into
+// its refusal.
+struct MapError {
+  QString message;
+};
+
+// A symbol table's records by name, compared without case.
+class NameIndex {
+ public:
+  OdDbObjectId find(const QString& name) const { return m_ids.value(name.toCaseFolded()); }
+  // Keeps the first record of a name; false if the name was taken.
+  bool add(const QString& name, const OdDbObjectId& id);
+  void clear() { m_ids.clear(); }
+
+ private:
+  QHash<QString, OdDbObjectId> m_ids;
+};
+
+// What the mapper knows about the drawing it reads or writes.
+struct Context {
+  OdDbDatabase* db = nullptr;
+  File* file = nullptr;
+  int release = 0;       // 1015 for AC1015; 0 when the file names none
+  bool markers = true;   // records carry subclass markers (R13 on)
+  bool handles = true;   // records carry handles (every release but early R12)
+  bool quiet = false;    // re-reading for comparison: no warnings
+  QStringList* warnings = nullptr;
+  int warningCount = 0;
+
+  NameIndex layers, linetypes, styles, dimstyles, regapps, blocks;
+  // Plot style names by the handle of their placeholder object (the
+  // ACAD_PLOTSTYLENAME dictionary), and back.
+  QHash<quint64, QString> plotStyleNames;
+  QHash<QString, quint64> plotStyleHandles;
+  // Makes a record the file lacks but names (a layer of an R12 file without
+  // LAYER table, say); set while reading, never while re-reading.
+  std::function<OdDbObjectId(NameIndex& table, const QString& name)> missingRecord;
+
+  // "line 12" / "byte offset 345" of a tag read from the file; for tags made
+  // since, the record's type and handle.
+  QString where(const Record& r, int index) const;
+  void warn(const QString& message);
+
+  // Line counting resumes where the previous question left off.
+  mutable const char* lineAt = nullptr;
+  mutable qsizetype line = 1;
+};
+
+class RecordIO {
+ public:
+  enum Mode { Read, Patch, Create };
+  RecordIO(Context& ctx, Record& rec, Mode mode);
+
+  Mode mode() const { return m_mode; }
+  bool reading() const { return m_mode == Read; }
+  Context& ctx() const { return m_ctx; }
+  Record& record() const { return m_rec; }
+  // Records that belong to this one (a POLYLINE's VERTEX records), or null.
+  void setSequence(QList<Record>* records) { m_sequence = records; }
+  QList<Record>* sequence() const { return m_sequence; }
+  // True when the file's release has values that came with `release`.
+  bool supports(int release) const { return m_ctx.release == 0 || m_ctx.release >= release; }
+
+  // Moves to the tags of a subclass ("AcDbLine"; the n-th marker of that
+  // name). Records without markers keep one region for every class.
+  void subclass(QByteArrayView marker, int occurrence = 1);
+
+  // Index of the first tag with this code in the current region, or -1.
+  int find(int code, int from = -1) const;
+  bool has(int code) const { return find(code) >= 0; }
+
+  // Reading. A value that is not a number of the code's type is refused.
+  double real(int code, double def) const;
+  qint64 integer(int code, qint64 def) const;
+  QString string(int code, const QString& def = QString()) const;
+  quint64 handle(int code) const;
+  // The point of codes code, code+10, code+20 (Z optional).
+  OdGePoint3d point(int code, const OdGePoint3d& def = OdGePoint3d()) const;
+  double realAt(int index) const;
+  qint64 integerAt(int index) const;
+
+  // Writing: patches the tag, or inserts it at the insertion point.
+  void putReal(int code, double v);
+  void putInteger(int code, qint64 v);
+  void putString(int code, const QString& v);
+  void putHandle(int code, quint64 h);
+  void putPoint(int code, const OdGePoint3d& p, int dims = 3);
+  void remove(int code);
+  // Inserts a tag at the insertion point (for repeated codes) and returns
+  // its index.
+  int insertTag(int code);
+  // The field of this code is left as it is: the insertion point moves past
+  // its tags.
+  void skip(int code, int dims = 1);
+
+  // Extended data: every application's chain except `exclude`, in file order.
+  OdResBufPtr xdata(const QStringList& exclude = {}) const;
+  // The items of one application (after its 1001 item), or null.
+  OdResBufPtr xdataOf(const QString& app) const;
+  // Replaces one application's extended data with `items` (null removes it);
+  // a new application goes last.
+  void putXdataOf(const QString& app, const OdResBuf* items);
+
+  [[noreturn]] void refuse(int index, const QString& what) const;
+  void warn(int index, const QString& what) const;
+  QString where(int index) const { return m_ctx.where(m_rec, index); }
+
+ private:
+  void insertAt(int index, int code);
+  void moveCursor(int index) {
+    if (index + 1 > m_cursor) m_cursor = index + 1;
+  }
+  int xdataBegin() const;
+  void shift(int at, int delta);
+
+  Context& m_ctx;
+  Record& m_rec;
+  Mode m_mode;
+  QList<Record>* m_sequence = nullptr;
+  bool m_flat = false;   // no subclass markers
+  int m_begin = 1, m_end = 1, m_cursor = 1;
+};
+
+// Exact comparison of values, NaN equal to NaN.
+inline bool same(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
+inline bool same(const OdGePoint3d& a, const OdGePoint3d& b) { return same(a.x, b.x) && same(a.y, b.y) && same(a.z, b.z); }
+inline bool same(const OdGeVector3d& a, const OdGeVector3d& b) { return same(a.x, b.x) && same(a.y, b.y) && same(a.z, b.z); }
+inline bool same(const OdGePoint2d& a, const OdGePoint2d& b) { return same(a.x, b.x) && same(a.y, b.y); }
+template <class V>
+bool same(const V& a, const V& b) { return a == b; }
+
+// The unit normal of codes code/+10/+20 as the reader makes it: (0,0,1) when
+// absent or zero.
+OdGeVector3d readNormal(const RecordIO& io, int code);
+
+// Whether a field may be left out of a new record when it has its default.
+enum class Opt { Required, Optional };
+
+// The fields of one class, bound to an object (and, when patching or
+// creating, to `before`: the record re-read, or a default object).
+template <class T>
+class Fields {
+ public:
+  Fields(RecordIO& io, T* obj, const T* before) : m_io(io), m_obj(obj), m_before(before) {}
+
+  RecordIO& io() const { return m_io; }
+  bool reading() const { return m_io.reading(); }
+  T* object() const { return m_obj; }
+  const T* before() const { return m_before; }
+  void subclass(QByteArrayView marker, int occurrence = 1) { m_io.subclass(marker, occurrence); }
+
+  // Whether the value `get` gives must be written: it differs from `before`,
+  // or the record is new and the field required.
+  template <class Get>
+  bool changed(Get get, Opt opt = Opt::Required) const {
+    if (m_io.mode() == RecordIO::Create && opt == Opt::Required) return true;
+    return !same(std::invoke(get, m_obj), std::invoke(get, m_before));
+  }
+
+  template <class Get, class Set>
+  void real(int code, Get get, Set set, double def = 0.0, Opt opt = Opt::Required) {
+    if (reading()) {
+      const double v = m_io.real(code, def);
+      apply(code, [&] { std::invoke(set, m_obj, v); });
+    } else if (changed(get, opt)) {
+      m_io.putReal(code, std::invoke(get, m_obj));
+    } else {
+      m_io.skip(code);
+    }
+  }
+
+  template <class Get, class Set>
+  void integer(int code, Get get, Set set, qint64 def = 0, Opt opt = Opt::Required) {
+    using V = std::decay_t<std::invoke_result_t<Get, T*>>;
+    if (reading()) {
+      const qint64 v = m_io.integer(code, def);
+      apply(code, [&] { std::invoke(set, m_obj, V(v)); });
+    } else if (changed(get, opt)) {
+      m_io.putInteger(code, qint64(std::invoke(get, m_obj)));
+    } else {
+      m_io.skip(code);
+    }
+  }
+
+  // One bit of a flags word (group 70 and the like).
+  template <class Get, class Set>
+  void flag(int code, int bit, Get get, Set set) {
+    if (reading()) {
+      const bool v = (m_io.integer(code, 0) & bit) != 0;
+      apply(code, [&] { std::invoke(set, m_obj, v); });
+      return;
+    }
+    const bool v = std::invoke(get, m_obj);
+    const bool mustWrite = m_io.mode() == RecordIO::Create ? v : v != bool(std::invoke(get, m_before));
+    if (!mustWrite) {
+      if (m_io.mode() == RecordIO::Create && !m_io.has(code)) m_io.putInteger(code, 0);
+      else m_io.skip(code);
+      return;
+    }
+    const qint64 old = m_io.integer(code, 0);
+    m_io.putInteger(code, v ? (old | bit) : (old & ~qint64(bit)));
+  }
+
+  template <class Get, class Set>
+  void string(int code, Get get, Set set, Opt opt = Opt::Required) {
+    if (reading()) {
+      const QString v = m_io.string(code);
+      apply(code, [&] { std::invoke(set, m_obj, OdString(v)); });
+    } else if (changed(get, opt)) {
+      m_io.putString(code, OdString(std::invoke(get, m_obj)).qstring());
+    } else {
+      m_io.skip(code);
+    }
+  }
+
+  // A WCS point or a vector of codes code, code+10, code+20.
+  template <class Get, class Set>
+  void point(int code, Get get, Set set, Opt opt = Opt::Required, int dims = 3) {
+    using V = std::decay_t<std::invoke_result_t<Get, T*>>;
+    if (reading()) {
+      const OdGePoint3d p = m_io.point(code);
+      apply(code, [&] { std::invoke(set, m_obj, V(p.x, p.y, p.z)); });
+    } else if (changed(get, opt)) {
+      const V v = std::invoke(get, m_obj);
+      m_io.putPoint(code, OdGePoint3d(v.x, v.y, v.z), dims);
+    } else {
+      m_io.skip(code, dims);
+    }
+  }
+
+  // The extrusion direction (210/220/230): a unit vector, (0,0,1) by default
+  // and left out of new records then.
+  template <class Get, class Set>
+  void normal(int code, Get get, Set set) {
+    if (reading()) {
+      const OdGeVector3d n = readNormal(m_io, code);
+      apply(code, [&] { std::invoke(set, m_obj, n); });
+    } else if (changed(get, Opt::Optional)) {
+      const OdGeVector3d n = std::invoke(get, m_obj);
+      m_io.putPoint(code, OdGePoint3d(n.x, n.y, n.z), 3);
+    } else {
+      m_io.skip(code, 3);
+    }
+  }
+
+  // A point the object keeps in WCS and the record in the object coordinate
+  // system of the normal of `normalCode` (arbitrary axis algorithm). A new
+  // normal moves the record's coordinates too.
+  template <class Get, class Set, class Normal>
+  void ocsPoint(int code, int normalCode, Get get, Set set, Normal normal, Opt opt = Opt::Required, int dims = 3) {
+    if (reading()) {
+      const OdGePoint3d p = OdGeMatrix3d::planeToWorld(readNormal(m_io, normalCode)) * m_io.point(code);
+      apply(code, [&] { std::invoke(set, m_obj, p); });
+    } else if (changed(get, opt) || !same(std::invoke(normal, m_obj), std::invoke(normal, m_before))) {
+      const OdGePoint3d p = OdGeMatrix3d::worldToPlane(std::invoke(normal, m_obj)) * std::invoke(get, m_obj);
+      m_io.putPoint(code, p, dims);
+    } else {
+      m_io.skip(code, dims);
+    }
+  }
+
+  // Runs a setter; a value the object refuses keeps its default, with a
+  // warning that says so.
+  template <class F>
+  void apply(int code, F&& f) {
+    try {
+      f();
+    } catch (const OdError& e) {
+      const int at = m_io.find(code);
+      m_io.warn(at, QStringLiteral("group code %1 value '%2' refused (%3); default kept")
+                        .arg(code)
+                        .arg(at >= 0 ? m_io.record().str(at) : QString(), e.description().qstring()));
+    }
+  }
+
+ private:
+  RecordIO& m_io;
+  T* m_obj;
+  const T* m_before;
+};
+
+// How one drawing class is read and written.
+using FieldsFn = void (*)(RecordIO& io, OdDbObject* obj, const OdDbObject* before);
+template <class T, void (*F)(Fields<T>&)>
+void fieldsOf(RecordIO& io, OdDbObject* obj, const OdDbObject* before) {
+  Fields<T> f(io, static_cast<T*>(obj), static_cast<const T*>(before));
+  F(f);
+}
+
+struct ClassMapping {
+  const char* dxfName;       // record type
+  OdRxClass* (*desc)();      // the class, exactly (derived classes have rows of their own)
+  int minRelease;            // oldest release that has the record type (0: all)
+  FieldsFn fields;           // the class's own fields (after the common ones)
+};
+
+// Entities whose data the platform models; the rest keep their common
+// properties only.
+const ClassMapping* entityMapping(const OdRxClass* cls);
+// Symbol table records, by class or by record type.
+const ClassMapping* recordMapping(const OdRxClass* cls);
+const ClassMapping* recordMapping(QByteArrayView type);
+// Applications whose extended data a class maps to values of its own.
+QStringList ownXdataApps(const OdRxClass* cls);
+// The BLOCK record that starts a block's definition (name, base point).
+void blockBeginFields(RecordIO& io, OdDbBlockTableRecord* block, const OdDbBlockTableRecord* before);
+// $MODEL_SPACE / $PAPER_SPACE of R12 as the platform names them.
+QString blockName(const QString& fileName);
+
+// The properties every entity has (layer, linetype, colour, ...), extended
+// data and hyperlinks included.
+void entityCommonFields(RecordIO& io, OdDbEntity* obj, const OdDbEntity* before);
+// Hyperlinks (the "PE_URL" application) and the other applications' data.
+void entityXdataFields(RecordIO& io, OdDbEntity* obj, const OdDbEntity* before);
+// Extended data of any object (applications in `exclude` are mapped elsewhere).
+void xdataFields(RecordIO& io, OdDbObject* obj, const OdDbObject* before, const QStringList& exclude);
+
+// Shared by entities and layers: a linetype by name (absent: ByLayer), a
+// colour of 62 (negative: a layer that is off) and 420 true colour.
+void readOrWriteLinetype(RecordIO& io, int code, OdDbObjectId current, OdDbObjectId before,
+                         const std::function<void(const OdDbObjectId&)>& set);
+OdCmColor readColor(RecordIO& io, bool allowNegative);
+void writeColorIndex(RecordIO& io, const OdCmColor& c, int sign, bool create);
+void writeTrueColor(RecordIO& io, const OdCmColor& c);
+
+// The class of an entity record: by DXF name, DIMENSION by its type,
+// POLYLINE by its flags, INSERT by its columns and rows; unknown types are
+// proxies.
+OdRxClass* entityClass(const Record& r);
+
+// Header variables: read into the database, patched when they differ.
+void readHeader(Context& ctx);
+void patchHeader(Context& ctx);
+
+// Name of a symbol table record ("" for the null id).
+QString recordName(const OdDbObjectId& id);
+
+}  // namespace OdDxf::mapping
