@@ -345,20 +345,20 @@ constexpr auto readOnly = &CZqCustomPropertyPE::IsReadOnlyTrue;
 using T = CZqPropertyType;
 
 const ZqRow kRows[] = {
-//  category       name                                                         type  identifier                 read-only          get                      set                      icon                  visibility
-  {ZQ_GENERAL,    QT_TRANSLATE_NOOP("property_types", "Thickness"),            2,    nullptr,                   editable,          getThickness,            setThickness,            nullptr,              kVisOr4},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex"),               6,    T::kVertexGUID,            editable,          getVertex,               setVertex,               nullptr,              kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex X"),             2,    T::kVertexXGUID,           isVertexReadOnly,  getVertexCoordinate<0>,  setVertexCoordinate<0>,  nullptr,              kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex Y"),             2,    T::kVertexYGUID,           isVertexReadOnly,  getVertexCoordinate<1>,  setVertexCoordinate<1>,  nullptr,              kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Start segment width"),  0,    T::kVertexStartWidthGUID,  editable,          getSegmentWidth<true>,   setSegmentWidth<true>,   nullptr,              kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "End segment width"),    0,    T::kVertexEndWidthGUID,    editable,          getSegmentWidth<false>,  setSegmentWidth<false>,  nullptr,              kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Global width"),         0,    nullptr,                   editable,          getGlobalWidth,          setGlobalWidth,          nullptr,              kVisKeep},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Elevation"),            0,    nullptr,                   editable,          getElevation,            setElevation,            nullptr,              kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Area"),                 0,    nullptr,                   readOnly,          getArea,                 nullptr,                 nullptr,              kVisKeep},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Length"),               0,    nullptr,                   readOnly,          getLength,               nullptr,                 nullptr,              kVisKeep},
-  {ZQ_MISC,       QT_TRANSLATE_NOOP("property_types", "Closed"),               0,    nullptr,                   editable,          getClosed,               setClosed,               nullptr,              kVisKeep},
-  {ZQ_MISC,       QT_TRANSLATE_NOOP("property_types", "LineStyleGen"),         0,    nullptr,                   editable,          getPlinegen,             setPlinegen,             "Misc_LTGeneration",  kVisXor8},
-  {ZQ_MATCHPROP,  "MATCHPROP_Polyline",                                        0,    nullptr,                   nullptr,           ZqGetOwnId,              setMatch,                "",                   kVisMatchProp},
+//  category       name                                                         type  identifier                 read-only          get                      set                      icon                           visibility
+  {ZQ_GENERAL,    QT_TRANSLATE_NOOP("property_types", "Thickness"),            2,    nullptr,                   editable,          getThickness,            setThickness,            nullptr,                       kVisOr4},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex"),               6,    T::kVertexGUID,            editable,          getVertex,               setVertex,               nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex X"),             2,    T::kVertexXGUID,           isVertexReadOnly,  getVertexCoordinate<0>,  setVertexCoordinate<0>,  nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex Y"),             2,    T::kVertexYGUID,           isVertexReadOnly,  getVertexCoordinate<1>,  setVertexCoordinate<1>,  nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Start segment width"),  0,    T::kVertexStartWidthGUID,  editable,          getSegmentWidth<true>,   setSegmentWidth<true>,   "Geometry_StartSegmentWidth",  kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "End segment width"),    0,    T::kVertexEndWidthGUID,    editable,          getSegmentWidth<false>,  setSegmentWidth<false>,  "Geometry_EndSegmentWidth",    kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Global width"),         0,    nullptr,                   editable,          getGlobalWidth,          setGlobalWidth,          "Geometry_GlobalWidth",        kVisKeep},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Elevation"),            0,    nullptr,                   editable,          getElevation,            setElevation,            nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Area"),                 0,    nullptr,                   readOnly,          getArea,                 nullptr,                 nullptr,                       kVisKeep},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Length"),               0,    nullptr,                   readOnly,          getLength,               nullptr,                 nullptr,                       kVisKeep},
+  {ZQ_MISC,       QT_TRANSLATE_NOOP("property_types", "Closed"),               0,    nullptr,                   editable,          getClosed,               setClosed,               nullptr,                       kVisKeep},
+  {ZQ_MISC,       QT_TRANSLATE_NOOP("property_types", "LineStyleGen"),         0,    nullptr,                   editable,          getPlinegen,             setPlinegen,             "Misc_LTGeneration",           kVisXor8},
+  {ZQ_MATCHPROP,  "MATCHPROP_Polyline",                                        0,    nullptr,                   nullptr,           ZqGetOwnId,              setMatch,                "",                            kVisMatchProp},
 };
 
 const ZqRow kCloudRows[] = {
