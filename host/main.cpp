@@ -1,35 +1,91 @@
-// zqprops: lists the Properties-palette rows and the information listing of
-// drawing objects, with ZQProperties loaded as the CAD host loads it.
+// zqprops: lists and edits the Properties-palette rows and the information
+// listing of the objects of a DXF drawing, with ZQProperties loaded as the
+// CAD host loads it.
+//
+// Exit status: 0 done; 1 an edit was refused; 2 bad usage or an unreadable
+// drawing.
 #include "Listing.h"
+#include "Session.h"
+#include "DxfDatabase.h"
 #include "RxModule.h"
 #include "DbPlainClasses.h"
 #include "ZqServices.h"
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <cmath>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <cstdio>
 
 namespace {
 
-// A small drawing: three lines, one of them vertical, under a rotated and
-// shifted UCS.
-OdDbDatabasePtr demoDrawing() {
-  OdDbDatabasePtr db = OdDbDatabase::createObject();
-  const double a = OdaPI / 6;
-  db->setUCS(OdGePoint3d(10, 5, 0), OdGeVector3d(std::cos(a), std::sin(a), 0), OdGeVector3d(-std::sin(a), std::cos(a), 0));
-  OdDbObjectPtr ms = db->getModelSpaceId().openObject(OdDb::kForWrite);
-  auto* space = static_cast<OdDbBlockTableRecord*>(ms.get());
-  const OdGePoint3d ends[][2] = {{{0, 0, 0}, {10, 0, 0}}, {{2, 3, 0}, {8, 11, 0}}, {{5, 5, 0}, {5, 5, 7.5}}};
-  for (const auto& e : ends) {
-    OdDbLinePtr line = OdDbLine::createObject();
-    line->setDatabaseDefaults(db.get());
-    line->setStartPoint(e[0]);
-    line->setEndPoint(e[1]);
-    space->appendOdDbEntity(line.get());
+
+enum Exit { kDone = 0, kRefused = 1, kUsage = 2 };
+
+OdDbObjectIdArray modelSpace(OdDbDatabase* db) {
+  OdDbObjectPtr ms = db->getModelSpaceId().openObject();
+  auto space = OdDbBlockTableRecord::cast(ms.get());
+  return space ? space->entityIds() : OdDbObjectIdArray();
+}
+
+// Installs the catalog zqprops_<code>.qm from the translations folder next
+// to the program (or ../share/zqprops/translations); false when none exists.
+bool installTranslation(QCoreApplication& app, const QString& code, QTranslator& translator) {
+  const QString dir = QCoreApplication::applicationDirPath();
+  for (const QString& folder : {dir + "/translations", dir + "/../share/zqprops/translations"})
+    if (translator.load("zqprops_" + code, folder)) return app.installTranslator(&translator);
+  return false;
+}
+
+// Applies NAME=VALUE to every target object that has a row of that name.
+// Returns the exit status it calls for.
+int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArray& targets, QTextStream& err) {
+  const int eq = assignment.indexOf('=');
+  if (eq <= 0) {
+    err << QCoreApplication::translate("zqprops", "zqprops: --set expects NAME=VALUE, got \"%1\"").arg(assignment) << "\n";
+    return kUsage;
   }
-  return db;
+  const QString name = assignment.left(eq).trimmed(), text = assignment.mid(eq + 1);
+  CZqPropertiesWindowService service(db);
+  int status = kDone, found = 0;
+  for (const OdDbObjectId& id : targets) {
+    service.SetSelection({id});
+    const std::vector<CZqPaletteRow> rows = service.Rows();
+    const CZqPaletteRow* row = service.FindRow(rows, name);
+    if (!row) continue;
+    ++found;
+    const QString handle = id.getHandle().ascii().qstring();
+    if (row->readOnly) {
+      err << QCoreApplication::translate("zqprops", "zqprops: %1: %2 is read-only").arg(handle, row->name.qstring()) << "\n";
+      status = kRefused;
+      continue;
+    }
+    CZqVariant value;
+    QString why;
+    if (!service.ParseValue(*row, text, value, &why)) {
+      err << QCoreApplication::translate("zqprops", "zqprops: %1: %2: %3").arg(handle, row->name.qstring(), why) << "\n";
+      status = kRefused;
+      continue;
+    }
+    for (const CZqEditResult& r : service.SetValue(row->category, row->name, value)) {
+      if (r.code != kZqSetRefused) continue;
+      err << QCoreApplication::translate("zqprops", "zqprops: %1: %2 refused (%3)%4")
+                 .arg(handle, row->name.qstring())
+                 .arg(r.code)
+                 .arg(r.message.isEmpty() ? QString() : ": " + r.message.qstring())
+          << "\n";
+      status = kRefused;
+    }
+  }
+  if (!found) {
+    err << QCoreApplication::translate("zqprops", "zqprops: no object has a property named \"%1\"").arg(name) << "\n";
+    return kUsage;
+  }
+  return status;
 }
 
 }  // namespace
@@ -37,49 +93,128 @@ OdDbDatabasePtr demoDrawing() {
 int main(int argc, char** argv) {
   QCoreApplication app(argc, argv);
   QCoreApplication::setApplicationName("zqprops");
-  QCommandLineParser parser;
-  parser.setApplicationDescription("Lists the properties and information of drawing objects.");
-  parser.addHelpOption();
-  QCommandLineOption demo("demo", "Use a built-in demonstration drawing.");
-  QCommandLineOption list("list", "Print each object's palette rows.");
-  QCommandLineOption info("info", "Print each object's information listing.");
-  QCommandLineOption json("json", "Print JSON instead of text.");
-  QCommandLineOption ucs("ucs", "List information in the current UCS.");
-  parser.addOptions({demo, list, info, json, ucs});
-  parser.process(app);
+  QTextStream out(stdout), err(stderr);
 
-  QTextStream err(stderr);
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      "Lists and edits the properties and information of the objects of a DXF drawing.\n"
+      "With no action it reads commands (-PROPERTIES, LIST, SAVE, QUIT) at a \"Command:\" prompt.");
+  parser.addHelpOption();
+  parser.addPositionalArgument("drawing", "The DXF drawing to read.");
+  const QCommandLineOption list("list", "Print each object's palette rows.");
+  const QCommandLineOption info("info", "Print each object's information listing.");
+  const QCommandLineOption handle("handle", "Work on the object with this handle (repeatable).", "H");
+  const QCommandLineOption json("json", "Print JSON.");
+  const QCommandLineOption set("set", "Set a property on the objects that have it (repeatable).", "NAME=VALUE");
+  const QCommandLineOption script("script", "Run the lines of FILE as a script.", "FILE");
+  const QCommandLineOption output({"o", "output"}, "Save the drawing to OUT.", "OUT");
+  const QCommandLineOption lang("lang", "Use the translation catalog of this language.", "CODE");
+  const QCommandLineOption ucs("ucs", "List information in the current UCS.");
+  parser.addOptions({list, info, handle, json, set, script, output, lang, ucs});
+  if (!parser.parse(app.arguments())) {
+    err << "zqprops: " << parser.errorText() << "\n";
+    return kUsage;
+  }
+  if (parser.isSet("help")) {
+    out << parser.helpText();
+    return kDone;
+  }
+  const QStringList positional = parser.positionalArguments();
+  if (positional.size() != 1) {
+    err << QCoreApplication::translate("zqprops", "zqprops: expected one drawing, got %1 (see --help)").arg(positional.size()) << "\n";
+    return kUsage;
+  }
+  QTranslator translator;
+  if (parser.isSet(lang) && !installTranslation(app, parser.value(lang), translator))
+    err << QCoreApplication::translate("zqprops", "zqprops: no translation catalog for \"%1\"; using English").arg(parser.value(lang)) << "\n";
+
   odDbInitialize();
+  GetZqSystemServices()->SetEchoToStderr(false);
   if (!odrxDynamicLinker()->loadModule("ZQProperties")) {
-    err << "zqprops: cannot load ZQProperties: " << odrxDynamicLinker()->lastError().qstring() << "\n";
-    return 2;
+    err << "zqprops: " << QCoreApplication::translate("zqprops", "cannot load ZQProperties: %1").arg(odrxDynamicLinker()->lastError().qstring()) << "\n";
+    return kUsage;
   }
-  if (!parser.isSet(demo)) {
-    err << "zqprops: no drawing given (use --demo)\n";
-    return 2;
+
+  const QString inputPath = positional.front();
+  QString error;
+  QStringList warnings;
+  OdDbDatabasePtr db = OdDxf::readDrawing(inputPath, error, &warnings);
+  if (!db) {
+    err << "zqprops: " << inputPath << ": " << error << "\n";
+    return kUsage;
   }
-  OdDbDatabasePtr db = demoDrawing();
-  OdDbObjectPtr ms = db->getModelSpaceId().openObject();
-  const OdDbObjectIdArray ids = static_cast<OdDbBlockTableRecord*>(ms.get())->entityIds();
-  ms.release();
-  const bool doList = parser.isSet(list) || !parser.isSet(info);
-  QTextStream out(stdout);
-  if (parser.isSet(json)) {
-    QJsonArray objects;
-    for (const OdDbObjectId& id : ids) {
-      QJsonObject o = doList ? zqRowsJson(db.get(), id) : QJsonObject{{"handle", QString(id.getHandle().ascii())}};
-      if (parser.isSet(info)) o["lines"] = zqInfoJson(db.get(), id, parser.isSet(ucs))["lines"];
-      objects.append(o);
+  for (const QString& w : warnings) err << "zqprops: " << inputPath << ": " << QCoreApplication::translate("zqprops", "warning: %1").arg(w) << "\n";
+
+  int status = kDone;
+  int exitCode = kDone;
+  {
+    OdDbObjectIdArray targets;
+    for (const QString& h : parser.values(handle)) {
+      const OdDbObjectId id = db->getOdDbObjectId(OdDbHandle(OdString(h)));
+      if (id.isNull() || id.isErased()) {
+        err << QCoreApplication::translate("zqprops", "zqprops: no object with handle %1").arg(h) << "\n";
+        return kUsage;
+      }
+      targets.append(id);
     }
-    out << QJsonDocument(QJsonObject{{"drawing", "demo"}, {"objects", objects}}).toJson();
-  } else {
-    for (const OdDbObjectId& id : ids) {
-      if (doList) zqPrintRows(out, db.get(), id);
-      if (parser.isSet(info)) zqPrintInfo(out, db.get(), id, parser.isSet(ucs));
+    if (!parser.isSet(handle)) targets = modelSpace(db.get());
+
+    ZqSessionOptions options{inputPath, parser.value(output), parser.isSet(ucs)};
+    const int refusedBefore = CZqPropertiesWindowService::RefusedEdits();
+    for (const QString& assignment : parser.values(set)) {
+      const int s = applySet(db.get(), assignment, targets, err);
+      if (s == kUsage) return kUsage;
+      status = std::max(status, s);
+    }
+
+    const bool interactive = !parser.isSet(list) && !parser.isSet(info) && !parser.isSet(set) &&
+                             !parser.isSet(script) && !parser.isSet(output);
+    ZqSession session(db.get(), options, out, err);
+    if (parser.isSet(script)) {
+      QFile file(parser.value(script));
+      if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        err << QCoreApplication::translate("zqprops", "zqprops: cannot read script %1: %2").arg(parser.value(script), file.errorString()) << "\n";
+        return kUsage;
+      }
+      QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+      for (QString& l : lines)
+        if (l.endsWith('\r')) l.chop(1);
+      if (!lines.isEmpty() && lines.back().isEmpty()) lines.pop_back();
+      ZqScriptIO io(lines, out, true);
+      if (!session.run(io, [&] { return io.atEnd(); })) exitCode = kUsage;
+    } else if (interactive) {
+      QTextStream in(stdin);
+      ZqConsoleIO io(in, out);
+      if (!session.run(io, [&] { return io.atEnd(); })) exitCode = kUsage;
+    }
+    if (CZqPropertiesWindowService::RefusedEdits() > refusedBefore) status = std::max(status, int(kRefused));
+
+    if (parser.isSet(list) || parser.isSet(info)) {
+      if (parser.isSet(json)) {
+        QJsonArray objects;
+        for (const OdDbObjectId& id : targets) {
+          QJsonObject o = parser.isSet(list) ? zqRowsJson(db.get(), id) : QJsonObject{{"handle", id.getHandle().ascii().qstring()}};
+          if (parser.isSet(info)) o["lines"] = zqInfoJson(db.get(), id, parser.isSet(ucs))["lines"];
+          objects.append(o);
+        }
+        out << QJsonDocument(QJsonObject{{"drawing", QFileInfo(inputPath).fileName()}, {"objects", objects}}).toJson(QJsonDocument::Indented);
+      } else {
+        for (const OdDbObjectId& id : targets) {
+          if (parser.isSet(list)) zqPrintRows(out, db.get(), id);
+          if (parser.isSet(info)) zqPrintInfo(out, db.get(), id, parser.isSet(ucs));
+        }
+      }
+      out.flush();
+    }
+
+    if (parser.isSet(output)) {
+      if (!zqSaveDrawing(db.get(), options, parser.value(output), error)) {
+        err << "zqprops: " << error << "\n";
+        exitCode = kUsage;
+      }
     }
   }
-  out.flush();
   db.release();
   odrxDynamicLinker()->unloadModule("ZQProperties");
-  return 0;
+  return exitCode != kDone ? exitCode : status;
 }

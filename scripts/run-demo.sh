@@ -5,4 +5,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
 scripts/build.sh
-build/bin/zqprops --demo --list --info
+build/bin/zqprops samples/demo.dxf --list
