@@ -52,6 +52,8 @@ class DB_API OdDbDatabase : public OdRxObject {
   OdDbHandle handseed() const { return m_handseed; }
   void setHandseed(OdDbHandle h);
   size_t objectCount() const { return m_byHandle.size(); }
+  // Makes room for n objects in all (for file readers that know the count).
+  void reserveObjects(size_t n) { m_byHandle.reserve(n); }
 
   // --- tables and blocks --------------------------------------------------
   OdDbObjectId getBlockTableId() const { return m_blockTable; }

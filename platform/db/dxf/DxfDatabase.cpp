@@ -38,9 +38,18 @@ class DrawingData : public OdRxObject {
   quint64 handseed = 0;  // $HANDSEED as the file has it; 0 if none
 
   DrawingData() { ctx.file = &file; }
-  DrawingData(const DrawingData& o)
-      : file(o.file), ctx(o.ctx), owners(o.owners), bound(o.bound), implicit(o.implicit), handseed(o.handseed) {
+  // A copy to bring up to date; the two sets stay with the original until
+  // the copy replaces it (adopt()).
+  DrawingData(const DrawingData& o) : file(o.file), ctx(o.ctx), owners(o.owners), handseed(o.handseed) {
     ctx.file = &file;
+  }
+  void adopt(DrawingData& o, const std::vector<const OdDbStub*>& added, const std::vector<const OdDbStub*>& dropped,
+             const std::vector<const OdDbStub*>& madeReal) {
+    bound = std::move(o.bound);
+    implicit = std::move(o.implicit);
+    for (const OdDbStub* s : dropped) bound.erase(s);
+    for (const OdDbStub* s : madeReal) implicit.erase(s);
+    bound.insert(added.begin(), added.end());
   }
 };
 
@@ -147,14 +156,15 @@ class Reader {
   OdDbObjectId readEntity(int s, int i, const OdDbObjectId& owner, QList<Record>* sequence, bool listed);
   OdDbObjectId addObject(OdDbObject* obj, const OdDbObjectId& owner, quint64 handle, int s, int i);
   void bind(int s, int i, const OdDbObjectId& id) { m_d.owners[size_t(s)][size_t(i)] = stubOf(id); }
+  quint64 handleOf(int s, int i) const { return m_handles[size_t(s)][size_t(i)]; }
 
   DrawingData& m_d;
   Context& m_ctx;
   OdDbDatabase* m_db;
   OdDbObjectId m_tables[kTableCount];
   OdDbObjectId m_modelSpace, m_paperSpace;
-  // The last name looked up, for the run of entities on one layer.
-  QString m_lastLayerName;
+  // Every record's handle (after the repairs), per section; 0 for none.
+  std::vector<std::vector<quint64>> m_handles;
 };
 
 void Reader::readVersion() {
@@ -189,9 +199,12 @@ void Reader::scanHandles() {
     int s, i;
   };
   std::vector<Seen> all;
+  all.reserve(size_t(f.tagCount() / 8));
   quint64 max = 0;
+  m_handles.resize(size_t(f.sections().size()));
   for (int s = 0; s < f.sections().size(); ++s) {
     Section& sec = section(s);
+    m_handles[size_t(s)].assign(size_t(sec.records.size()), 0);
     if (sec.name == "HEADER") continue;
     for (int i = 0; i < sec.records.size(); ++i) {
       const Record& r = sec.records[i];
@@ -202,6 +215,7 @@ void Reader::scanHandles() {
       if (!ok) refuse(r, hi, QStringLiteral("handle '%1' of %2 is not hexadecimal").arg(r.str(hi).left(40), typeName(r)));
       if (h == 0) continue;
       all.push_back({h, s, i});
+      m_handles[size_t(s)][size_t(i)] = h;
       max = qMax(max, h);
     }
   }
@@ -218,6 +232,7 @@ void Reader::scanHandles() {
     const QString at = m_ctx.where(r, hi);
     const QString firstAt = m_ctx.where(record(first->s, first->i), 0);
     r.setHandle(hi, ++max);
+    m_handles[size_t(dup.s)][size_t(dup.i)] = max;
     m_ctx.warn(QStringLiteral("%1: handle %2 of %3 is already used by %4 at %5; given handle %6")
                    .arg(at, QString::number(dup.handle, 16).toUpper(), typeName(r),
                         typeName(record(first->s, first->i)), firstAt, QString::number(max, 16).toUpper()));
@@ -293,7 +308,7 @@ void Reader::readTables(int s) {
         continue;
       }
       OdRxObjectPtr obj = kTables[k].tableClass()->create();
-      m_tables[k] = addObject(static_cast<OdDbObject*>(obj.get()), OdDbObjectId(), r.handle(), s, i);
+      m_tables[k] = addObject(static_cast<OdDbObject*>(obj.get()), OdDbObjectId(), handleOf(s, i), s, i);
       continue;
     }
     if (r.isType("ENDTAB")) {
@@ -312,7 +327,7 @@ void Reader::readTables(int s) {
     RecordIO io(m_ctx, r, RecordIO::Read);
     readFields(io, rec);
     const QString name = rec->getName().qstring();
-    const OdDbObjectId id = addObject(rec, m_tables[k], r.handle(), s, i);
+    const OdDbObjectId id = addObject(rec, m_tables[k], handleOf(s, i), s, i);
     table(k)->appendInternal(id);
     // Text styles of shape files have no name; nothing refers to them by it.
     if (!name.isEmpty() && !(m_ctx.*kTables[k].index).add(name, id))
@@ -412,7 +427,7 @@ void Reader::readBlocks(int s) {
       // No BLOCK_RECORD (R12): the BLOCK record is the block's own.
       auto btr = OdDbBlockTableRecord::createObject();
       btr->setName(name);
-      id = addObject(btr.get(), m_tables[0], r.handle(), s, i);
+      id = addObject(btr.get(), m_tables[0], handleOf(s, i), s, i);
       table(0)->appendInternal(id);
       m_ctx.blocks.add(name, id);
     } else {
@@ -464,7 +479,7 @@ OdDbObjectId Reader::readEntity(int s, int i, const OdDbObjectId& owner, QList<R
   RecordIO io(m_ctx, r, RecordIO::Read);
   io.setSequence(sequence);
   readFields(io, e);
-  const OdDbObjectId id = addObject(e, owner, r.handle(), s, i);
+  const OdDbObjectId id = addObject(e, owner, handleOf(s, i), s, i);
   if (listed) static_cast<OdDbBlockTableRecord*>(owner.stub()->object)->appendEntityIdInternal(id);
   return id;
 }
@@ -531,6 +546,10 @@ void Reader::run() {
 
   readVersion();
   scanHandles();
+  size_t records = 0;
+  for (const Section& s : f.sections()) records += size_t(s.records.size());
+  m_db->reserveObjects(records);
+  m_d.bound.reserve(records);
   readPlotStyleNames();
   m_ctx.missingRecord = [this](NameIndex& index, const QString& name) { return missingRecord(index, name); };
   for (int s = 0; s < f.sections().size(); ++s)
@@ -567,8 +586,11 @@ bool gone(const OdDbObject* o) {
 
 class Writer {
  public:
-  Writer(DrawingData& d, OdDbDatabase* db) : m_d(d), m_ctx(d.ctx), m_db(db) {}
+  // Brings `d`, a copy of `kept`, up to date with the database.
+  Writer(DrawingData& d, const DrawingData& kept, OdDbDatabase* db) : m_d(d), m_kept(kept), m_ctx(d.ctx), m_db(db) {}
   void run();
+  // Objects that got records, lost them, or were made in memory and now have them.
+  std::vector<const OdDbStub*> m_added, m_dropped, m_madeReal;
 
  private:
   struct Pending {
@@ -576,7 +598,7 @@ class Writer {
     std::vector<std::pair<OdDbStub*, std::vector<OdDbObjectId>>> entities;  // new entities by block
     std::vector<OdDbObjectId> blocks;                     // new blocks
   };
-  bool isBound(const OdDbStub* s) const { return m_d.bound.count(s) || m_d.implicit.count(s); }
+  bool isBound(const OdDbStub* s) const { return m_kept.bound.count(s) || m_kept.implicit.count(s); }
   std::vector<OdDbObjectId>* newEntitiesOf(OdDbStub* block);
   void collectNew();
   void registerApps();
@@ -585,30 +607,26 @@ class Writer {
   void walk(int s);
   void patch(Record& r, OdDbStub* stub, QList<Record>* sequence);
   void rename(Record& r);
-  Record createEntity(const OdDbObjectId& id, const OdDbObjectId& block, bool paperFlag);
+  QList<Record> createEntity(const OdDbObjectId& id, const OdDbObjectId& block, bool paperFlag);
   Record createRecord(const OdDbObjectId& id, int k);
   Record createBlockBegin(OdDbBlockTableRecord* btr);
   Record createBlockEnd(OdDbBlockTableRecord* btr);
   void appendNewEntities(QList<Record>& out, std::vector<OdDbStub*>& owners, OdDbStub* block, bool paperFlag);
-  quint64 newHandle() {
-    const quint64 h = m_db->handseed().value();
-    m_db->setHandseed(OdDbHandle(h + 1));
-    return h;
-  }
+  quint64 newHandle() { return m_ctx.newHandle(); }
   void noteHandle(quint64 h) { m_maxWritten = qMax(m_maxWritten, h); }
   void bindNew(std::vector<OdDbStub*>& owners, const OdDbObjectId& id) {
     owners.push_back(stubOf(id));
-    m_d.bound.insert(stubOf(id));
+    m_added.push_back(stubOf(id));
   }
 
   DrawingData& m_d;
+  const DrawingData& m_kept;
   Context& m_ctx;
   OdDbDatabase* m_db;
   Pending m_new;
   QHash<QString, QString> m_layerRenames, m_linetypeRenames;  // case-folded old name -> new name
   quint64 m_maxWritten = 0;
   int m_lastEntities = -1;  // the ENTITIES section new entities go to
-  std::vector<const OdDbStub*> m_dropped;
 };
 
 std::vector<OdDbObjectId>* Writer::newEntitiesOf(OdDbStub* block) {
@@ -623,7 +641,12 @@ void Writer::collectNew() {
     auto* table = odrxCast<OdDbSymbolTable>(t.get());
     if (!table) continue;
     for (const OdDbObjectId& id : table->recordIds()) {
-      if (id.isErased() || isBound(id.stub())) continue;
+      if (id.isErased() || m_kept.bound.count(id.stub())) continue;
+      if (m_kept.implicit.count(id.stub())) {
+        // A record made in memory gets one of its own once it is edited.
+        if (k == 0 || !id.stub()->object->isModified()) continue;
+        m_madeReal.push_back(id.stub());
+      }
       m_new.records[k].push_back(id);
       if (k == 0) m_new.blocks.push_back(id);
     }
@@ -733,7 +756,7 @@ void Writer::patch(Record& r, OdDbStub* stub, QList<Record>* sequence) {
   m_ctx.quiet = false;
 }
 
-Record Writer::createEntity(const OdDbObjectId& id, const OdDbObjectId& block, bool paperFlag) {
+QList<Record> Writer::createEntity(const OdDbObjectId& id, const OdDbObjectId& block, bool paperFlag) {
   OdDbObjectPtr obj = id.openObject();
   auto* e = static_cast<OdDbEntity*>(obj.get());
   const ClassMapping* m = entityMapping(e->isA());
@@ -756,9 +779,26 @@ Record Writer::createEntity(const OdDbObjectId& id, const OdDbObjectId& block, b
   }
   if (paperFlag) r.setInteger(r.append(67), 1);
   OdRxObjectPtr def = e->isA()->create();
-  RecordIO io(m_ctx, r, RecordIO::Create);
-  writeFields(io, e, static_cast<OdDbObject*>(def.get()));
-  return r;
+  QList<Record> sequence;
+  {
+    RecordIO io(m_ctx, r, RecordIO::Create);
+    io.setSequence(&sequence);
+    writeFields(io, e, static_cast<OdDbObject*>(def.get()));
+  }
+  QList<Record> out{r};
+  if (m->sequence) {
+    // Its VERTEX records, then SEQEND.
+    out += sequence;
+    Record end = m_d.file.newRecord("SEQEND");
+    if (m_ctx.handles) end.setHandle(end.append(5), m_ctx.newHandle());
+    if (m_ctx.markers) {
+      if (m_ctx.handles) end.setHandle(end.append(330), id.getHandle().value());
+      end.setRaw(end.append(100), "AcDbEntity");
+    }
+    end.setString(end.append(8), recordName(e->layerId()).isEmpty() ? QStringLiteral("0") : recordName(e->layerId()));
+    out.append(end);
+  }
+  return out;
 }
 
 Record Writer::createRecord(const OdDbObjectId& id, int k) {
@@ -822,8 +862,10 @@ void Writer::appendNewEntities(QList<Record>& out, std::vector<OdDbStub*>& owner
   std::vector<OdDbObjectId>* list = newEntitiesOf(block);
   if (!list) return;
   for (const OdDbObjectId& id : *list) {
-    out.append(createEntity(id, OdDbObjectId(block), paperFlag));
-    bindNew(owners, id);
+    const QList<Record> records = createEntity(id, OdDbObjectId(block), paperFlag);
+    out += records;
+    for (int k = 0; k < records.size(); ++k) owners.push_back(stubOf(id));
+    m_added.push_back(stubOf(id));
   }
   list->clear();
 }
@@ -964,6 +1006,7 @@ void Writer::run() {
                        .arg(recordName(m_new.blocks.front()))};
 
   // $HANDSEED stays above every handle written.
+  m_maxWritten = qMax(m_maxWritten, m_ctx.maxNewHandle);
   if (m_ctx.handles && m_maxWritten && m_maxWritten + 1 > m_d.handseed) {
     if (Record* var = m_d.file.headerVariable("$HANDSEED")) {
       const int i = var->find(5, 1);
@@ -973,7 +1016,6 @@ void Writer::run() {
       }
     }
   }
-  for (const OdDbStub* s : m_dropped) m_d.bound.erase(s);
 }
 
 void reindex(DrawingData& d, OdDbDatabase* db);
@@ -1053,7 +1095,9 @@ bool writeImpl(OdDbDatabase* db, QByteArray& out, QString& error) {
   work->ctx.db = db;
   work->ctx.warnings = nullptr;
   try {
-    Writer(*work, db).run();
+    Writer writer(*work, *kept, db);
+    writer.run();
+    work->adopt(*kept, writer.m_added, writer.m_dropped, writer.m_madeReal);
   } catch (const MapError& e) {
     error = e.message;
     return false;
@@ -1155,8 +1199,9 @@ bool writeDrawing(OdDbDatabase* db, const QString& path, QString& error) {
     return false;
   }
   // Saved: nothing counts as modified any more.
-  for (const OdDbStub* s : d->bound)
-    if (s->object) s->object->setModified(false);
+  for (const auto& owners : d->owners)
+    for (OdDbStub* s : owners)
+      if (s && s->object) s->object->setModified(false);
   return true;
 }
 

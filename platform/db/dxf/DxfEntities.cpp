@@ -311,18 +311,20 @@ void entityXdataFields(RecordIO& io, OdDbEntity* e, const OdDbEntity* before) {
 
 namespace {
 
-void lineFields(Fields<OdDbLine>& f) {
-  f.subclass("AcDbLine");
-  f.real(39, &OdDbLine::thickness, &OdDbLine::setThickness, 0.0, Opt::Optional);
-  f.point(10, &OdDbLine::startPoint, &OdDbLine::setStartPoint);
-  f.point(11, &OdDbLine::endPoint, &OdDbLine::setEndPoint);
-  f.normal(210, &OdDbLine::normal, &OdDbLine::setNormal);
-}
-
-//                                 record   class                since fields
+// clang-format off
+//                                 record        class                   since  fields                                             sequence
 constexpr ClassMapping kEntities[] = {
-    {"LINE",   &OdDbLine::desc,      0,    &fieldsOf<OdDbLine, lineFields>},
+    {"LINE",       &OdDbLine::desc,        0,    &fieldsOf<OdDbLine, lineFields>,                   false},
+    {"CIRCLE",     &OdDbCircle::desc,      0,    &fieldsOf<OdDbCircle, circleFields>,               false},
+    {"ELLIPSE",    &OdDbEllipse::desc,     1012, &fieldsOf<OdDbEllipse, ellipseFields>,             false},
+    {"SPLINE",     &OdDbSpline::desc,      1012, &fieldsOf<OdDbSpline, splineFields>,               false},
+    {"LWPOLYLINE", &OdDbPolyline::desc,    1014, &fieldsOf<OdDbPolyline, lwpolylineFields>,         false},
+    {"POLYLINE",   &OdDb2dPolyline::desc,  0,    &fieldsOf<OdDb2dPolyline, polyline2dFields>,       true},
+    {"POINT",      &OdDbPoint::desc,       0,    &fieldsOf<OdDbPoint, pointFields>,                 false},
+    {"RAY",        &OdDbRay::desc,         1012, &fieldsOf<OdDbRay, rayFields>,                     false},
+    {"XLINE",      &OdDbXline::desc,       1012, &fieldsOf<OdDbXline, xlineFields>,                 false},
 };
+// clang-format on
 
 }  // namespace
 

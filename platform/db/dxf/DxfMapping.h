@@ -25,6 +25,16 @@
 #include <functional>
 #include <type_traits>
 
+class OdDbLine;
+class OdDbCircle;
+class OdDbEllipse;
+class OdDbSpline;
+class OdDbPolyline;
+class OdDb2dPolyline;
+class OdDbPoint;
+class OdDbRay;
+class OdDbXline;
+
 namespace OdDxf::mapping {
 
 // Thrown by reading code for a malformed value; readDrawing turns it into
@@ -64,6 +74,16 @@ struct Context {
   // Makes a record the file lacks but names (a layer of an R12 file without
   // LAYER table, say); set while reading, never while re-reading.
   std::function<OdDbObjectId(NameIndex& table, const QString& name)> missingRecord;
+
+  // A handle for a record that is not an object of its own (a VERTEX, an
+  // ENDBLK): taken from the database's handle seed so that no object gets it.
+  quint64 newHandle() {
+    const quint64 h = db->handseed().value();
+    db->setHandseed(OdDbHandle(h + 1));
+    maxNewHandle = qMax(maxNewHandle, h);
+    return h;
+  }
+  quint64 maxNewHandle = 0;
 
   // "line 12" / "byte offset 345" of a tag read from the file; for tags made
   // since, the record's type and handle.
@@ -121,6 +141,10 @@ class RecordIO {
   // The field of this code is left as it is: the insertion point moves past
   // its tags.
   void skip(int code, int dims = 1);
+  // Removes `count` tags at `index` of the region.
+  void removeAt(int index, int count);
+  // Sets the insertion point (an index in the region, or its end).
+  void moveTo(int index) { m_cursor = qBound(m_begin, index, m_end); }
 
   // Extended data: every application's chain except `exclude`, in file order.
   OdResBufPtr xdata(const QStringList& exclude = {}) const;
@@ -321,7 +345,19 @@ struct ClassMapping {
   OdRxClass* (*desc)();      // the class, exactly (derived classes have rows of their own)
   int minRelease;            // oldest release that has the record type (0: all)
   FieldsFn fields;           // the class's own fields (after the common ones)
+  bool sequence = false;     // followed by records of its own up to SEQEND (POLYLINE)
 };
+
+// The fields of the classes whose data is mapped (DxfCurves.cpp).
+void lineFields(Fields<OdDbLine>& f);
+void circleFields(Fields<OdDbCircle>& f);
+void ellipseFields(Fields<OdDbEllipse>& f);
+void splineFields(Fields<OdDbSpline>& f);
+void lwpolylineFields(Fields<OdDbPolyline>& f);
+void polyline2dFields(Fields<OdDb2dPolyline>& f);
+void pointFields(Fields<OdDbPoint>& f);
+void rayFields(Fields<OdDbRay>& f);
+void xlineFields(Fields<OdDbXline>& f);
 
 // Entities whose data the platform models; the rest keep their common
 // properties only.

@@ -299,6 +299,13 @@ void RecordIO::remove(int code) {
   if (i < m_cursor) --m_cursor;
 }
 
+void RecordIO::removeAt(int index, int count) {
+  if (index < 0 || count <= 0) return;
+  m_rec.remove(index, count);
+  m_end -= qMin(count, m_end - index);
+  if (m_cursor > index) m_cursor = qMax(index, m_cursor - count);
+}
+
 int RecordIO::insertTag(int code) {
   const int i = m_cursor;
   insertAt(i, code);

@@ -1,0 +1,426 @@
+// The curve entities' own data: LINE, CIRCLE, ELLIPSE, SPLINE, LWPOLYLINE,
+// POLYLINE (2D) with its VERTEX records, POINT, RAY and XLINE. Each
+// function lists a class's fields in the order the DXF reference gives its
+// group codes; object coordinate system values go through the arbitrary
+// axis algorithm (OdGeMatrix3d::planeToWorld of the normal).
+#include "DbPlainClasses.h"
+#include "DxfMapping.h"
+
+#include <QtMath>
+
+#include <algorithm>
+
+namespace OdDxf::mapping {
+
+void lineFields(Fields<OdDbLine>& f) {
+  f.subclass("AcDbLine");
+  f.real(39, &OdDbLine::thickness, &OdDbLine::setThickness, 0.0, Opt::Optional);
+  f.point(10, &OdDbLine::startPoint, &OdDbLine::setStartPoint);
+  f.point(11, &OdDbLine::endPoint, &OdDbLine::setEndPoint);
+  f.normal(210, &OdDbLine::normal, &OdDbLine::setNormal);
+}
+
+void circleFields(Fields<OdDbCircle>& f) {
+  f.subclass("AcDbCircle");
+  f.real(39, &OdDbCircle::thickness, &OdDbCircle::setThickness, 0.0, Opt::Optional);
+  f.ocsPoint(10, 210, &OdDbCircle::center, &OdDbCircle::setCenter, &OdDbCircle::normal);
+  f.real(40, &OdDbCircle::radius, &OdDbCircle::setRadius);
+  f.normal(210, &OdDbCircle::normal, &OdDbCircle::setNormal);
+}
+
+void pointFields(Fields<OdDbPoint>& f) {
+  using P = OdDbPoint;
+  f.subclass("AcDbPoint");
+  f.point(10, &P::position, &P::setPosition);
+  f.real(39, &P::thickness, &P::setThickness, 0.0, Opt::Optional);
+  f.normal(210, &P::normal, &P::setNormal);
+  // The angle of the point's X axis, in degrees in the file.
+  f.real(
+      50, [](const P* p) { return qRadiansToDegrees(p->ecsRotation()); },
+      [](P* p, double deg) { p->setEcsRotation(qDegreesToRadians(deg)); }, 0.0, Opt::Optional);
+}
+
+template <class T>
+void directionFields(Fields<T>& f, const char* marker) {
+  f.subclass(marker);
+  f.point(10, &T::basePoint, &T::setBasePoint);
+  f.point(11, &T::unitDir, &T::setUnitDir);
+}
+void rayFields(Fields<OdDbRay>& f) { directionFields(f, "AcDbRay"); }
+void xlineFields(Fields<OdDbXline>& f) { directionFields(f, "AcDbXline"); }
+
+void ellipseFields(Fields<OdDbEllipse>& f) {
+  using E = OdDbEllipse;
+  RecordIO& io = f.io();
+  E* e = f.object();
+  f.subclass("AcDbEllipse");
+  if (io.reading()) {
+    // The values hold together (the major axis lies in the plane of the
+    // normal): they are set at once.
+    const OdGePoint3d c = io.point(10);
+    const OdGePoint3d m = io.point(11, OdGePoint3d(1, 0, 0));
+    const OdGeVector3d n = readNormal(io, 210);
+    const double ratio = io.real(40, 1.0), start = io.real(41, 0.0), end = io.real(42, Oda2PI);
+    f.apply(11, [&] {
+      e->set(c, n, m.asVector(), ratio);
+      e->setParams(start, end);
+    });
+    return;
+  }
+  auto asPoint = [](const OdGeVector3d& v) { return OdGePoint3d(v.x, v.y, v.z); };
+  if (f.changed(&E::center)) io.putPoint(10, e->center()); else io.skip(10, 3);
+  if (f.changed(&E::majorAxis)) io.putPoint(11, asPoint(e->majorAxis())); else io.skip(11, 3);
+  if (f.changed(&E::normal, Opt::Optional)) io.putPoint(210, asPoint(e->normal())); else io.skip(210, 3);
+  if (f.changed(&E::radiusRatio)) io.putReal(40, e->radiusRatio()); else io.skip(40);
+  if (f.changed(&E::startParam)) io.putReal(41, e->startParam()); else io.skip(41);
+  if (f.changed(&E::endParam)) io.putReal(42, e->endParam()); else io.skip(42);
+}
+
+// ---------------------------------------------------------------------------
+// LWPOLYLINE: the vertices are repeated 10/20 (object coordinates) each
+// followed by its optional 91 id, 40/41 widths and 42 bulge.
+
+struct LwVertex {
+  OdGePoint2d pt;
+  double bulge, startWidth, endWidth;
+  friend bool operator==(const LwVertex& a, const LwVertex& b) {
+    return same(a.pt, b.pt) && same(a.bulge, b.bulge) && same(a.startWidth, b.startWidth) && same(a.endWidth, b.endWidth);
+  }
+};
+
+std::vector<LwVertex> lwVertices(const OdDbPolyline* p) {
+  std::vector<LwVertex> out(p->numVerts());
+  for (unsigned i = 0; i < p->numVerts(); ++i) {
+    p->getPointAt(i, out[i].pt);
+    out[i].bulge = p->getBulgeAt(i);
+    p->getWidthsAt(i, out[i].startWidth, out[i].endWidth);
+  }
+  return out;
+}
+
+bool isVertexCode(int c) { return c == 10 || c == 20 || c == 91 || c == 40 || c == 41 || c == 42; }
+
+void lwpolylineFields(Fields<OdDbPolyline>& f) {
+  using P = OdDbPolyline;
+  RecordIO& io = f.io();
+  P* pl = f.object();
+  f.subclass("AcDbPolyline");
+  const bool reading = io.reading();
+  std::vector<LwVertex> now;
+  bool verticesChanged = false;
+  if (!reading) {
+    now = lwVertices(pl);
+    verticesChanged = io.mode() == RecordIO::Create || !(now == lwVertices(f.before()));
+  }
+  if (reading) {
+    // 90 tells the count; the vertices that are there count.
+  } else if (verticesChanged) {
+    io.putInteger(90, qint64(now.size()));
+  } else {
+    io.skip(90);
+  }
+  f.flag(70, 1, &P::isClosed, &P::setClosed);
+  f.flag(70, 128, &P::hasPlinegen, &P::setPlinegen);
+  f.real(43, &P::getConstantWidth, &P::setConstantWidth, 0.0, Opt::Optional);
+  f.real(38, &P::elevation, &P::setElevation, 0.0, Opt::Optional);
+  f.real(39, &P::thickness, &P::setThickness, 0.0, Opt::Optional);
+
+  Record& r = io.record();
+  const int first = io.find(10);
+  int last = first;  // the vertex tags run from `first` to `last`
+  bool hadWidths = false, hadBulges = false;
+  if (first >= 0) {
+    for (int i = first; i < r.size() && isVertexCode(r.at(i).code()); ++i) {
+      last = i;
+      hadWidths = hadWidths || r.at(i).code() == 40 || r.at(i).code() == 41;
+      hadBulges = hadBulges || r.at(i).code() == 42;
+    }
+  }
+  if (reading) {
+    unsigned n = 0;
+    for (int i = first; i >= 0 && i <= last;) {
+      OdGePoint2d pt(io.realAt(i), 0);
+      double bulge = 0, sw = -1, ew = -1;
+      int k = i + 1;
+      for (; k <= last && r.at(k).code() != 10; ++k) {
+        switch (r.at(k).code()) {
+          case 20: pt.y = io.realAt(k); break;
+          case 40: sw = io.realAt(k); break;
+          case 41: ew = io.realAt(k); break;
+          case 42: bulge = io.realAt(k); break;
+          default: break;  // 91: the vertex identifier
+        }
+      }
+      const unsigned index = n++;
+      f.apply(10, [&] { pl->addVertexAt(index, pt, bulge, sw, ew); });
+      i = k;
+    }
+    const int ci = io.find(90);
+    if (ci >= 0 && io.integerAt(ci) != qint64(n))
+      io.warn(ci, QStringLiteral("%1 vertices announced, %2 found; the ones found are read").arg(io.integerAt(ci)).arg(n));
+  } else if (verticesChanged) {
+    // The vertices are written anew, in the style the record had.
+    const double cw = pl->getConstantWidth();
+    if (first >= 0) {
+      io.removeAt(first, last - first + 1);
+      io.moveTo(first);
+    }
+    for (const LwVertex& v : now) {
+      r.setReal(io.insertTag(10), v.pt.x);
+      r.setReal(io.insertTag(20), v.pt.y);
+      if (hadWidths || v.startWidth != cw || v.endWidth != cw) {
+        r.setReal(io.insertTag(40), v.startWidth);
+        r.setReal(io.insertTag(41), v.endWidth);
+      }
+      if (hadBulges || v.bulge != 0) r.setReal(io.insertTag(42), v.bulge);
+    }
+  } else if (last >= 0) {
+    io.moveTo(last + 1);
+  }
+  f.normal(210, &P::normal, &P::setNormal);
+}
+
+// ---------------------------------------------------------------------------
+// SPLINE: flags, degree and counts, tolerances, tangents, then the knots
+// (40), weights (41), control points (10/20/30) and fit points (11/21/31).
+
+struct Nurbs {
+  int degree = 0;
+  bool rational = false, closed = false, periodic = false;
+  OdGePoint3dArray ctrl;
+  OdGeDoubleArray knots, weights;
+  OdGePoint3dArray fit;
+  double fitTol = 0;
+  bool sameControl(const Nurbs& o) const {
+    auto eq = [](const auto& a, const auto& b) {
+      return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](const auto& x, const auto& y) { return same(x, y); });
+    };
+    return degree == o.degree && rational == o.rational && closed == o.closed && periodic == o.periodic &&
+           eq(ctrl, o.ctrl) && eq(knots, o.knots) && eq(weights, o.weights);
+  }
+  bool sameFit(const Nurbs& o) const {
+    return fit.size() == o.fit.size() && same(fitTol, o.fitTol) &&
+           std::equal(fit.begin(), fit.end(), o.fit.begin(), [](const auto& x, const auto& y) { return same(x, y); });
+  }
+};
+
+Nurbs nurbsOf(const OdDbSpline* s) {
+  Nurbs n;
+  s->getNurbsData(n.degree, n.rational, n.closed, n.periodic, n.ctrl, n.knots, n.weights);
+  for (int i = 0; i < s->numFitPoints(); ++i) {
+    OdGePoint3d p;
+    s->getFitPointAt(i, p);
+    n.fit.append(p);
+  }
+  n.fitTol = s->fitTolerance();
+  return n;
+}
+
+void splineFields(Fields<OdDbSpline>& f) {
+  RecordIO& io = f.io();
+  OdDbSpline* sp = f.object();
+  Record& r = io.record();
+  f.subclass("AcDbSpline");
+  auto points = [&](int code) {
+    OdGePoint3dArray out;
+    for (int i = io.find(code); i >= 0; i = io.find(code, i + 1)) {
+      OdGePoint3d p(io.realAt(i), 0, 0);
+      if (i + 1 < r.size() && r.at(i + 1).code() == code + 10) p.y = io.realAt(i + 1);
+      if (i + 2 < r.size() && r.at(i + 2).code() == code + 20) p.z = io.realAt(i + 2);
+      out.append(p);
+    }
+    return out;
+  };
+  auto reals = [&](int code) {
+    OdGeDoubleArray out;
+    for (int i = io.find(code); i >= 0; i = io.find(code, i + 1)) out.append(io.realAt(i));
+    return out;
+  };
+  if (io.reading()) {
+    const qint64 flags = io.integer(70, 0);
+    const int degree = int(io.integer(71, 3));
+    const OdGePoint3dArray ctrl = points(10), fit = points(11);
+    const OdGeDoubleArray knots = reals(40), weights = reals(41);
+    if (!ctrl.isEmpty()) {
+      // Control data wins; fit points the file has as well stay in it.
+      f.apply(10, [&] { sp->setNurbsData(degree, flags & 4, flags & 1, flags & 2, ctrl, knots, weights); });
+    } else if (!fit.isEmpty()) {
+      const OdGePoint3d st = io.point(12), et = io.point(13);
+      f.apply(11, [&] { sp->setFitData(fit, degree, io.real(44, 0.0), st.asVector(), et.asVector()); });
+    }
+    return;
+  }
+  const Nurbs now = nurbsOf(sp), was = nurbsOf(f.before());
+  const bool create = io.mode() == RecordIO::Create;
+  const bool controlChanged = create || !now.sameControl(was), fitChanged = create || !now.sameFit(was);
+  if (!controlChanged && !fitChanged) return;
+  // Flags keep the planar and linear bits the file gives.
+  const qint64 flags = (io.integer(70, 0) & ~qint64(7)) | (now.closed ? 1 : 0) | (now.periodic ? 2 : 0) |
+                       (now.rational ? 4 : 0);
+  io.putInteger(70, flags);
+  io.putInteger(71, now.degree);
+  io.putInteger(72, now.knots.length());
+  io.putInteger(73, now.ctrl.length());
+  io.putInteger(74, now.fit.length());
+  if (!now.fit.isEmpty()) io.putReal(44, now.fitTol);
+  // The repeated values are written anew after the counts, tolerances and tangents.
+  for (int code : {40, 41, 10, 20, 30, 11, 21, 31})
+    while (io.has(code)) io.remove(code);
+  if (now.fit.isEmpty())
+    for (int code : {12, 22, 32, 13, 23, 33}) io.remove(code);
+  int after = -1;
+  for (int code : {70, 71, 72, 73, 74, 42, 43, 44, 12, 22, 32, 13, 23, 33, 210, 220, 230}) {
+    const int i = io.find(code);
+    if (i > after) after = i;
+  }
+  if (after >= 0) io.moveTo(after + 1);
+  for (double k : now.knots) r.setReal(io.insertTag(40), k);
+  for (double w : now.weights) r.setReal(io.insertTag(41), w);
+  for (const OdGePoint3d& p : now.ctrl) {
+    r.setReal(io.insertTag(10), p.x);
+    r.setReal(io.insertTag(20), p.y);
+    r.setReal(io.insertTag(30), p.z);
+  }
+  for (const OdGePoint3d& p : now.fit) {
+    r.setReal(io.insertTag(11), p.x);
+    r.setReal(io.insertTag(21), p.y);
+    r.setReal(io.insertTag(31), p.z);
+  }
+}
+
+// ---------------------------------------------------------------------------
+// POLYLINE (2D) and its VERTEX records.
+
+void vertex2dFields(Fields<OdDb2dVertex>& f) {
+  using V = OdDb2dVertex;
+  f.subclass("AcDbVertex");
+  f.subclass("AcDb2dVertex");
+  // The position in the polyline's object coordinates.
+  f.point(10, &V::position, &V::setPosition);
+  f.real(40, &V::startWidth, &V::setStartWidth, 0.0, Opt::Optional);
+  f.real(41, &V::endWidth, &V::setEndWidth, 0.0, Opt::Optional);
+  f.real(42, &V::bulge, &V::setBulge, 0.0, Opt::Optional);
+  // 70 flags: 1 made by curve fitting, 8 made by spline fitting, 16 a spline
+  // frame control point.
+  f.integer(
+      70,
+      [](const V* v) {
+        switch (v->vertexType()) {
+          case OdDb::k2dCurveFitVertex: return 1;
+          case OdDb::k2dSplineFitVertex: return 8;
+          case OdDb::k2dSplineCtlVertex: return 16;
+          default: return 0;
+        }
+      },
+      [](V* v, int flags) {
+        v->setVertexType(flags & 16  ? OdDb::k2dSplineCtlVertex
+                         : flags & 8 ? OdDb::k2dSplineFitVertex
+                         : flags & 1 ? OdDb::k2dCurveFitVertex
+                                     : OdDb::k2dVertex);
+      },
+      0, Opt::Optional);
+}
+
+namespace {
+
+// The polyline type from the 70 flags (2 curve fit, 4 spline fit) and the 75
+// smooth surface type (5 quadratic, 6 cubic B-spline).
+OdDb::Poly2dType polyType(qint64 flags, qint64 smooth) {
+  if (flags & 4) return smooth == 5 ? OdDb::k2dQuadSplinePoly : OdDb::k2dCubicSplinePoly;
+  if (flags & 2) return OdDb::k2dFitCurvePoly;
+  return OdDb::k2dSimplePoly;
+}
+
+// Reads a VERTEX record into a vertex; widths it leaves out are the polyline's.
+void readVertex(Context& ctx, Record& r, OdDb2dVertex* v, const OdDb2dPolyline* pl) {
+  RecordIO io(ctx, r, RecordIO::Read);
+  entityCommonFields(io, v, nullptr);
+  Fields<OdDb2dVertex> f(io, v, nullptr);
+  vertex2dFields(f);
+  if (!io.has(40)) v->setStartWidth(pl->defaultStartWidth());
+  if (!io.has(41)) v->setEndWidth(pl->defaultEndWidth());
+  entityXdataFields(io, v, nullptr);
+}
+
+void writeVertex(Context& ctx, Record& r, OdDb2dVertex* v, const OdDb2dVertex* before, RecordIO::Mode mode) {
+  RecordIO io(ctx, r, mode);
+  entityCommonFields(io, v, before);
+  Fields<OdDb2dVertex> f(io, v, before);
+  vertex2dFields(f);
+  entityXdataFields(io, v, before);
+}
+
+}  // namespace
+
+void polyline2dFields(Fields<OdDb2dPolyline>& f) {
+  using P = OdDb2dPolyline;
+  RecordIO& io = f.io();
+  Context& ctx = io.ctx();
+  P* pl = f.object();
+  const bool create = io.mode() == RecordIO::Create;
+  f.subclass("AcDb2dPolyline");
+  if (create) io.putInteger(66, 1);
+  // The dummy point's Z is the elevation.
+  if (create) io.putPoint(10, OdGePoint3d(0, 0, pl->elevation())); else io.skip(10, 2);
+  f.real(30, &P::elevation, &P::setElevation);
+  f.real(39, &P::thickness, &P::setThickness, 0.0, Opt::Optional);
+  f.flag(70, 1, &P::isClosed, &P::setClosed);
+  f.flag(70, 128, &P::isLinetypeGenerationOn, [](P* p, bool on) {
+    if (on) p->setLinetypeGenerationOn(); else p->setLinetypeGenerationOff();
+  });
+  if (io.reading()) {
+    f.apply(70, [&] { pl->setPolyType(polyType(io.integer(70, 0), io.integer(75, 0))); });
+  } else if (f.changed(&P::polyType)) {
+    const OdDb::Poly2dType t = pl->polyType();
+    const qint64 bits = t == OdDb::k2dFitCurvePoly ? 2 : t == OdDb::k2dSimplePoly ? 0 : 4;
+    io.putInteger(70, (io.integer(70, 0) & ~qint64(6)) | bits);
+  } else {
+    io.skip(70);
+  }
+  f.real(40, &P::defaultStartWidth, &P::setDefaultStartWidth, 0.0, Opt::Optional);
+  f.real(41, &P::defaultEndWidth, &P::setDefaultEndWidth, 0.0, Opt::Optional);
+  if (!io.reading()) {
+    const OdDb::Poly2dType t = pl->polyType();
+    const bool spline = t == OdDb::k2dQuadSplinePoly || t == OdDb::k2dCubicSplinePoly;
+    if (f.changed(&P::polyType, Opt::Optional) && (spline || io.has(75)))
+      io.putInteger(75, t == OdDb::k2dQuadSplinePoly ? 5 : t == OdDb::k2dCubicSplinePoly ? 6 : 0);
+    else
+      io.skip(75);
+  }
+  f.normal(210, &P::normal, &P::setNormal);
+
+  QList<Record>* seq = io.sequence();
+  if (!seq) return;
+  if (io.reading()) {
+    for (Record& vr : *seq) {
+      OdDb2dVertexPtr v = OdDb2dVertex::createObject();
+      readVertex(ctx, vr, v.get(), pl);
+      v->setModified(false);
+      pl->appendVertex(v.get());
+    }
+    return;
+  }
+  // Vertices: the ones both have are patched, extra records dropped, new
+  // ones made (each VERTEX has a handle of its own).
+  const P* before = f.before();
+  const unsigned n = pl->numVerts(), kept = std::min<unsigned>(n, before->numVerts());
+  const bool wasQuiet = ctx.quiet;
+  ctx.quiet = true;
+  for (unsigned i = 0; i < kept && int(i) < seq->size(); ++i)
+    writeVertex(ctx, (*seq)[int(i)], const_cast<OdDb2dVertex*>(pl->vertexAt(i)), before->vertexAt(i), RecordIO::Patch);
+  while (seq->size() > int(kept)) seq->removeLast();
+  for (unsigned i = kept; i < n; ++i) {
+    Record vr = ctx.file->newRecord("VERTEX");
+    if (ctx.handles) vr.setHandle(vr.append(5), ctx.newHandle());
+    if (ctx.markers) {
+      if (ctx.handles) vr.setHandle(vr.append(330), io.record().handle());
+      vr.setRaw(vr.append(100), "AcDbEntity");
+    }
+    OdDb2dVertexPtr def = OdDb2dVertex::createObject();
+    writeVertex(ctx, vr, const_cast<OdDb2dVertex*>(pl->vertexAt(i)), def.get(), RecordIO::Create);
+    seq->append(vr);
+  }
+  ctx.quiet = wasQuiet;
+}
+
+}  // namespace OdDxf::mapping
