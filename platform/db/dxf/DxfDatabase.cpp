@@ -260,6 +260,8 @@ void Reader::scanHandles() {
   }
   m_d.handseed = seed;
   m_db->setHandseed(OdDbHandle(qMax(seed, max + 1)));
+  // A file that says nothing about handles but has them keeps them.
+  if (!m_ctx.handles && max > 0 && !f.headerVariable("$HANDLING")) m_ctx.handles = true;
 }
 
 // Plot style names: the ACAD_PLOTSTYLENAME dictionary maps each name to the

@@ -1,0 +1,685 @@
+// Edited drawings written back: only the edited objects' records change, and
+// ezdxf reads the edited values. New objects get records and handles, erased
+// ones lose theirs, renamed layers are renamed where they are named.
+#include "DxfDatabaseSupport.h"
+
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <functional>
+
+using namespace dxfdb;
+
+namespace {
+
+const QString kExample2000 = QStringLiteral("libredwg__test__test-data__example_2000.dxf");
+const QString kExampleR14 = QStringLiteral("libredwg__test__test-data__example_r14.dxf");
+const QString kEntities2d = QStringLiteral("libredwg__test__test-data__2000__entities-2d.dxf");
+const QString kText = QStringLiteral("ezdxf__examples_dxf__text.dxf");
+const QString kNetDxf = QStringLiteral("netDxf__TestDxfDocument__sample.dxf");
+const QString kDimR26 = QStringLiteral("libredwg__test__test-data__r2.6__dim.dxf");
+
+// Evaluates Python expressions over ezdxf's reading of files. The queries
+// file holds [[path, entity index in model space or -1, expression], ...];
+// `e` is that entity, `doc` the drawing.
+const char* kQuery = R"(
+import ezdxf, sys, json
+from ezdxf.math import Vec3, Vec2
+def plain(v):
+    if isinstance(v, (str, bytes, int, float, bool)) or v is None: return v
+    if isinstance(v, (Vec3, Vec2)): return [float(x) for x in v]
+    try: return [plain(x) for x in v]
+    except TypeError: return str(v)
+docs = {}
+out = []
+for path, index, expr in json.load(open(sys.argv[1])):
+    if path not in docs: docs[path] = ezdxf.readfile(path)
+    doc = docs[path]
+    e = list(doc.modelspace())[index] if index >= 0 else None
+    try: out.append(plain(eval(expr)))
+    except Exception as ex: out.append('error: ' + repr(ex))
+print(json.dumps(out))
+)";
+
+struct Query {
+  QString path;
+  int index;
+  QString expression;
+};
+
+QJsonArray ezdxfQueries(const std::vector<Query>& queries, const QString& dir) {
+  QJsonArray list;
+  for (const Query& q : queries) list.append(QJsonArray{q.path, q.index, q.expression});
+  const QString file = dir + QStringLiteral("/queries.json");
+  QFile f(file);
+  EXPECT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write(QJsonDocument(list).toJson());
+  f.close();
+  bool ok = false;
+  const QJsonValue v = ezdxfJson(QString::fromLatin1(kQuery), {file}, &ok);
+  EXPECT_TRUE(ok);
+  return v.toArray();
+}
+
+// JSON values equal, numbers to 1e-9 relative (ezdxf computes object
+// coordinates its own way).
+::testing::AssertionResult sameJson(const QJsonValue& a, const QJsonValue& b) {
+  if (a.isDouble() && b.isDouble()) {
+    if (std::fabs(a.toDouble() - b.toDouble()) <= 1e-9 * std::max(1.0, std::fabs(b.toDouble())))
+      return ::testing::AssertionSuccess();
+  } else if (a.isArray() && b.isArray() && a.toArray().size() == b.toArray().size()) {
+    for (qsizetype i = 0; i < a.toArray().size(); ++i)
+      if (!sameJson(a.toArray()[i], b.toArray()[i])) break;
+      else if (i + 1 == a.toArray().size()) return ::testing::AssertionSuccess();
+    if (a.toArray().isEmpty()) return ::testing::AssertionSuccess();
+  } else if (a == b) {
+    return ::testing::AssertionSuccess();
+  }
+  return ::testing::AssertionFailure() << QJsonDocument(QJsonArray{a}).toJson(QJsonDocument::Compact).toStdString()
+                                       << " vs " << QJsonDocument(QJsonArray{b}).toJson(QJsonDocument::Compact).toStdString();
+}
+
+QJsonArray xyz(double x, double y, double z) { return QJsonArray{x, y, z}; }
+
+template <class T>
+T* as(OdDbObject* o) {
+  return static_cast<T*>(o);
+}
+
+OdDbObjectId layerNamed(OdDbDatabase* db, const char* name) {
+  OdDbObjectPtr t = db->getLayerTableId().openObject();
+  return static_cast<OdDbSymbolTable*>(t.get())->getAt(OdString(name));
+}
+
+// What, besides the edited object's own records, an edit may change.
+enum class Extra {
+  None,
+  NewApp,    // an APPID record for new extended data, and $HANDSEED
+  Sequence,  // records of the object's VERTEX run
+};
+
+struct EditCase {
+  const char* name;
+  const QString& sample;
+  // The object edited: the first model-space entity of the class, or what
+  // `pick` gives (null id: the drawing's header).
+  OdRxClass* (*cls)();
+  std::function<OdDbObjectId(OdDbDatabase*)> pick;
+  std::function<void(OdDbDatabase*, OdDbObject*)> edit;
+  QString query;
+  // The value ezdxf must read; given the edited object when it depends on it.
+  std::function<QJsonValue(OdDbObject*)> expected;
+  QStringList header = {};  // header variables the edit changes
+  Extra extra = Extra::None;
+};
+
+QJsonValue value(const QJsonValue& v, OdDbObject*) { return v; }
+#define FIXED(v) [](OdDbObject* o) { return value(v, o); }
+
+std::vector<EditCase> editCases() {
+  const auto line = &OdDbLine::desc;
+  const auto circle = &OdDbCircle::desc;
+  const auto lw = &OdDbPolyline::desc;
+  auto layer = [](const char* name) { return [name](OdDbDatabase* db) { return layerNamed(db, name); }; };
+  auto header = [](OdDbDatabase*) { return OdDbObjectId(); };
+  const OdCmTransparency t40 = OdCmTransparency::fromPercent(40);
+  return {
+      {"LineStart", kExample2000, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLine>(o)->setStartPoint(OdGePoint3d(1.5, -2.25, 3)); },
+       "e.dxf.start", FIXED(xyz(1.5, -2.25, 3))},
+      {"LineEndR14", kExampleR14, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLine>(o)->setEndPoint(OdGePoint3d(-7, 8.125, 0.1)); },
+       "e.dxf.end", FIXED(xyz(-7, 8.125, 0.1))},
+      {"LineStartR26WithoutHandles", kDimR26, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLine>(o)->setStartPoint(OdGePoint3d(0.25, 0.5, 0)); },
+       "e.dxf.start", FIXED(xyz(0.25, 0.5, 0))},
+      {"LineLayer", kExample2000, line, nullptr,
+       [](OdDbDatabase* db, OdDbObject* o) { as<OdDbEntity>(o)->setLayer(layerNamed(db, "Tavolo 2")); },
+       "e.dxf.layer", FIXED(QStringLiteral("Tavolo 2"))},
+      {"LineLinetype", kExample2000, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { ASSERT_TRUE(as<OdDbEntity>(o)->setLinetype(OdString("Continuous"))); },
+       "e.dxf.linetype.lower()", FIXED(QStringLiteral("continuous"))},
+      {"LineColorIndex", kExample2000, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setColorIndex(3); }, "e.dxf.color", FIXED(3)},
+      {"LineTrueColor", kText, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setColor(OdCmColor::fromRGB(10, 20, 30)); },
+       "e.dxf.true_color", FIXED((10 << 16) | (20 << 8) | 30)},
+      {"LineThicknessInserted", kExample2000, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLine>(o)->setThickness(2.5); }, "e.dxf.thickness", FIXED(2.5)},
+      {"LineLineweight", kExample2000, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setLineWeight(OdDb::kLnWt050); }, "e.dxf.lineweight",
+       FIXED(50)},
+      {"LineLinetypeScale", kExample2000, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setLinetypeScale(2.0); }, "e.dxf.ltscale", FIXED(2.0)},
+      {"LineTransparency", kText, line, nullptr,
+       [t40](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setTransparency(t40); }, "e.dxf.transparency",
+       [t40](OdDbObject*) { return QJsonValue(t40.packed()); }},
+      {"LineInvisible", kExample2000, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setVisibility(false); }, "e.dxf.invisible", FIXED(1)},
+      {"LineNormal", kText, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLine>(o)->setNormal(OdGeVector3d(0, 0, -1)); }, "e.dxf.extrusion",
+       FIXED(xyz(0, 0, -1))},
+      {"LineHyperlink", kExample2000, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         OdArray<OdDbHyperlink> links;
+         links.append(OdDbHyperlink{OdString("https://example.com/a"), OdString("A link"), OdString("#sheet")});
+         as<OdDbEntity>(o)->setHyperlinks(links);
+       },
+       "list(e.get_hyperlink())",
+       FIXED((QJsonArray{QStringLiteral("https://example.com/a"), QStringLiteral("A link"), QStringLiteral("#sheet")})),
+       {}, Extra::NewApp},
+      {"LineExtendedData", kText, line, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         OdResBufPtr rb = OdResBuf::newRb(OdResBuf::kDxfRegAppName, OdString("ZQTEST"));
+         rb->setNext(OdResBuf::newRb(OdResBuf::kDxfXdAsciiString, OdString("hello")).get())
+             ->setNext(OdResBuf::newRb(OdResBuf::kDxfXdInteger16, 7).get())
+             ->setNext(OdResBuf::newRb(OdResBuf::kDxfXdReal, 2.5).get());
+         o->setXData(rb.get());
+       },
+       "[[t.code, t.value] for t in e.get_xdata('ZQTEST')]",
+       FIXED((QJsonArray{QJsonArray{1000, QStringLiteral("hello")}, QJsonArray{1070, 7}, QJsonArray{1040, 2.5}})), {},
+       Extra::NewApp},
+      {"CircleRadius", kEntities2d, circle, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbCircle>(o)->setRadius(7.5); }, "e.dxf.radius", FIXED(7.5)},
+      {"CircleCenterUnderNegativeNormal", kEntities2d, circle, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         as<OdDbCircle>(o)->setNormal(OdGeVector3d(0, 0, -1));
+         as<OdDbCircle>(o)->setCenter(OdGePoint3d(1, 2, 3));
+       },
+       "[list(e.ocs().to_wcs(e.dxf.center)), list(e.dxf.extrusion)]",
+       FIXED((QJsonArray{xyz(1, 2, 3), xyz(0, 0, -1)}))},
+      {"CircleNormalTiltedKeepsWorldCenter", kEntities2d, circle, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbCircle>(o)->setNormal(OdGeVector3d(0.6, 0, 0.8)); },
+       "list(e.ocs().to_wcs(e.dxf.center))",
+       [](OdDbObject* o) {
+         const OdGePoint3d c = as<OdDbCircle>(o)->center();
+         return QJsonValue(xyz(c.x, c.y, c.z));
+       }},
+      {"PolylineVertexMoved", kEntities2d, lw, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbPolyline>(o)->setPointAt(0, OdGePoint2d(5.5, -1.25)); },
+       "list(e.get_points('xy'))[0]", FIXED((QJsonArray{5.5, -1.25}))},
+      {"PolylineVertexAdded", kEntities2d, lw, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         auto* p = as<OdDbPolyline>(o);
+         p->addVertexAt(p->numVerts(), OdGePoint2d(100, 200), 0.5);
+       },
+       "[len(e), list(e.get_points('xyb'))[-1]]",
+       [](OdDbObject* o) { return QJsonValue(QJsonArray{int(as<OdDbPolyline>(o)->numVerts()), QJsonArray{100, 200, 0.5}}); }},
+      {"PolylineClosedAndElevated", kEntities2d, lw, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         as<OdDbPolyline>(o)->setClosed(!as<OdDbPolyline>(o)->isClosed());
+         as<OdDbPolyline>(o)->setElevation(4.5);
+       },
+       "[e.closed, e.dxf.elevation]", [](OdDbObject* o) { return QJsonValue(QJsonArray{as<OdDbPolyline>(o)->isClosed(), 4.5}); }},
+      {"PointPosition", kEntities2d, &OdDbPoint::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbPoint>(o)->setPosition(OdGePoint3d(3, 4, 5)); }, "e.dxf.location",
+       FIXED(xyz(3, 4, 5))},
+      {"EllipseRatio", kExample2000, &OdDbEllipse::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         auto* e = as<OdDbEllipse>(o);
+         const double s = e->startParam(), en = e->endParam();
+         e->set(e->center(), e->normal(), e->majorAxis(), 0.25);
+         e->setParams(s, en);
+       },
+       "e.dxf.ratio", FIXED(0.25)},
+      {"SplineControlPoint", kExample2000, &OdDbSpline::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         int degree;
+         bool rational, closed, periodic;
+         OdGePoint3dArray ctrl;
+         OdGeDoubleArray knots, weights;
+         as<OdDbSpline>(o)->getNurbsData(degree, rational, closed, periodic, ctrl, knots, weights);
+         ctrl[0] = OdGePoint3d(-1, -2, 0);
+         as<OdDbSpline>(o)->setNurbsData(degree, rational, closed, periodic, ctrl, knots, weights);
+       },
+       "[list(e.control_points[0]), len(e.control_points), len(e.knots)]",
+       [](OdDbObject* o) {
+         const auto* s = as<OdDbSpline>(o);
+         return QJsonValue(QJsonArray{xyz(-1, -2, 0), s->numControlPoints(), int(s->knots().length())});
+       }},
+      {"RayBase", kExample2000, &OdDbRay::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbRay>(o)->setBasePoint(OdGePoint3d(1, 2, 3)); }, "e.dxf.start",
+       FIXED(xyz(1, 2, 3))},
+      {"XlineDirection", kExample2000, &OdDbXline::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbXline>(o)->setUnitDir(OdGeVector3d(0, 1, 0)); },
+       "e.dxf.unit_vector", FIXED(xyz(0, 1, 0))},
+      {"Polyline2dVertexMoved", kNetDxf, &OdDb2dPolyline::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDb2dPolyline>(o)->vertexForWrite(1)->setPosition(OdGePoint3d(-3, 9, 0)); },
+       "list(e.vertices[1].dxf.location)[:2]", FIXED((QJsonArray{-3, 9})), {}, Extra::Sequence},
+      {"Polyline2dVertexAdded", kNetDxf, &OdDb2dPolyline::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         OdDb2dVertexPtr v = OdDb2dVertex::createObject();
+         v->setPosition(OdGePoint3d(40, 50, 0));
+         v->setBulge(0.25);
+         as<OdDb2dPolyline>(o)->appendVertex(v.get());
+       },
+       "[len(e.vertices), list(e.vertices[-1].dxf.location)[:2], e.vertices[-1].dxf.bulge]",
+       [](OdDbObject* o) { return QJsonValue(QJsonArray{int(as<OdDb2dPolyline>(o)->numVerts()), QJsonArray{40, 50}, 0.25}); },
+       {"$HANDSEED"}, Extra::Sequence},
+      {"LayerColor", kExample2000, nullptr, layer("Tavolo 2"),
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLayerTableRecord>(o)->setColor(OdCmColor::fromIndex(1)); },
+       "doc.layers.get('Tavolo 2').dxf.color", FIXED(1)},
+      {"LayerOff", kExample2000, nullptr, layer("Tavolo 2"),
+       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLayerTableRecord>(o)->setIsOff(true); },
+       "doc.layers.get('Tavolo 2').is_off()", FIXED(true)},
+      {"LayerFrozenLocked", kExample2000, nullptr, layer("Tavolo 2"),
+       [](OdDbDatabase*, OdDbObject* o) {
+         as<OdDbLayerTableRecord>(o)->setIsFrozen(true);
+         as<OdDbLayerTableRecord>(o)->setIsLocked(true);
+       },
+       "(lambda l: [l.is_frozen(), l.is_locked()])(doc.layers.get('Tavolo 2'))", FIXED((QJsonArray{true, true}))},
+      {"LayerPlotAndLineweight", kExample2000, nullptr, layer("Tavolo 2"),
+       [](OdDbDatabase*, OdDbObject* o) {
+         as<OdDbLayerTableRecord>(o)->setIsPlottable(false);
+         as<OdDbLayerTableRecord>(o)->setLineWeight(OdDb::kLnWt035);
+       },
+       "(lambda l: [l.dxf.plot, l.dxf.lineweight])(doc.layers.get('Tavolo 2'))", FIXED((QJsonArray{0, 35}))},
+      {"LayerTransparency", kExample2000, nullptr, layer("Tavolo 2"),
+       [t40](OdDbDatabase*, OdDbObject* o) { as<OdDbLayerTableRecord>(o)->setTransparency(t40); },
+       "[[t.code, t.value] for t in doc.layers.get('Tavolo 2').get_xdata('AcCmTransparency')]",
+       [t40](OdDbObject*) { return QJsonValue(QJsonArray{QJsonArray{1071, t40.packed()}}); }, {}, Extra::NewApp},
+      {"HeaderUnits", kExample2000, nullptr, header,
+       [](OdDbDatabase* db, OdDbObject*) {
+         db->setLUNITS(4);
+         db->setINSUNITS(6);
+       },
+       "[doc.header['$LUNITS'], doc.header['$INSUNITS']]", FIXED((QJsonArray{4, 6})), {"$INSUNITS", "$LUNITS"}},
+      {"HeaderUcs", kText, nullptr, header,
+       [](OdDbDatabase* db, OdDbObject*) { db->setUCS(OdGePoint3d(1, 2, 3), OdGeVector3d(0, 1, 0), OdGeVector3d(-1, 0, 0)); },
+       "[list(doc.header['$UCSORG']), list(doc.header['$UCSXDIR']), list(doc.header['$UCSYDIR'])]",
+       FIXED((QJsonArray{xyz(1, 2, 3), xyz(0, 1, 0), xyz(-1, 0, 0)})), {"$UCSORG", "$UCSXDIR", "$UCSYDIR"}},
+      {"HeaderVariableTheFileLacks", kDimR26, nullptr, header,
+       [](OdDbDatabase* db, OdDbObject*) { db->setMEASUREMENT(1); }, "doc.header['$MEASUREMENT']", FIXED(1),
+       {"$MEASUREMENT"}},
+  };
+}
+
+// The handles of the VERTEX or ATTRIB records and the SEQEND that follow
+// the record of a handle.
+QStringList sequenceKeys(const QByteArray& bytes, quint64 handle) {
+  OdDxf::File f;
+  QString error;
+  OdDxf::File::read(bytes, f, error);
+  QStringList out;
+  for (const OdDxf::Section& s : f.sections())
+    for (qsizetype i = 0; i < s.records.size(); ++i) {
+      if (s.records[i].handle() != handle) continue;
+      for (qsizetype k = i + 1; k < s.records.size(); ++k) {
+        const OdDxf::Record& r = s.records[k];
+        if (!r.isType("VERTEX") && !r.isType("ATTRIB") && !r.isType("SEQEND")) break;
+        out.append(QStringLiteral("#") + QString::number(r.handle(), 16).toUpper());
+        if (r.isType("SEQEND")) break;
+      }
+    }
+  return out;
+}
+
+TEST(DxfDatabaseEdit, OnlyTheEditedRecordsChangeAndEzdxfReadsTheValues) {
+  odDbInitialize();
+  QTemporaryDir dir;
+  std::vector<EditCase> cases = editCases();
+  std::vector<Query> queries;
+  std::vector<QJsonValue> expected;
+  for (size_t c = 0; c < cases.size(); ++c) {
+    const EditCase& ec = cases[c];
+    SCOPED_TRACE(ec.name);
+    const QByteArray bytes = readBytes(samplePath(ec.sample));
+    OdDbDatabasePtr db = load(bytes);
+    ASSERT_TRUE(db);
+    const OdDbObjectId id = ec.pick ? ec.pick(db.get()) : firstOf(db.get(), ec.cls());
+    const bool onHeader = ec.pick && id.isNull();
+    ASSERT_TRUE(onHeader || id.isValid());
+    OdDbObjectPtr obj = onHeader ? OdDbObjectPtr() : id.openObject(OdDb::kForWrite);
+    ec.edit(db.get(), obj.get());
+    const QJsonValue want = ec.expected(obj.get());
+    obj.release();
+
+    const QString path = dir.filePath(QStringLiteral("%1.dxf").arg(c));
+    QString error;
+    ASSERT_TRUE(OdDxf::writeDrawing(db.get(), path, error)) << error.toStdString();
+    const QByteArray out = readBytes(path);
+
+    // The records that may change.
+    QStringList allowed = ec.header;
+    const QMap<QString, QByteArray> before = recordsOf(bytes), after = recordsOf(out);
+    if (!onHeader) {
+      if (id.getHandle().value() && before.contains(QStringLiteral("#") + hex(id))) allowed.append(QStringLiteral("#") + hex(id));
+      if (ec.extra == Extra::Sequence) allowed += sequenceKeys(bytes, id.getHandle().value());
+    }
+    const QStringList changed = changedRecords(bytes, out);
+    EXPECT_FALSE(changed.isEmpty());
+    for (const QString& key : changed) {
+      if (allowed.contains(key)) continue;
+      const bool isNew = !before.contains(key);
+      if (ec.extra == Extra::NewApp && (key == QLatin1String("$HANDSEED") || (isNew && after.value(key).startsWith("0\tAPPID"))))
+        continue;
+      if (ec.extra == Extra::Sequence && isNew && after.value(key).startsWith("0\tVERTEX")) continue;
+      // A drawing without handles: the one record of the edited entity.
+      if (!id.getHandle().value() || (!onHeader && !before.contains(QStringLiteral("#") + hex(id)))) {
+        if (changed.size() == 1 && key.startsWith(QLatin1String("ENTITIES:"))) continue;
+      }
+      ADD_FAILURE() << "record " << key.toStdString() << " changed";
+    }
+    int index = -1;
+    const OdDbObjectIdArray model = entitiesOf(db->getModelSpaceId());
+    if (!onHeader && model.contains(id)) index = int(std::find(model.begin(), model.end(), id) - model.begin());
+    queries.push_back({path, index, ec.query});
+    expected.push_back(want);
+
+    // Our own reading of what we wrote: nothing more to change.
+    OdDbDatabasePtr again = load(out);
+    ASSERT_TRUE(again);
+    EXPECT_EQ(save(again.get()), out);
+  }
+  if (!haveEzdxf()) GTEST_SKIP() << "ezdxf not installed";
+  const QJsonArray got = ezdxfQueries(queries, dir.path());
+  ASSERT_EQ(size_t(got.size()), cases.size());
+  for (size_t c = 0; c < cases.size(); ++c) EXPECT_TRUE(sameJson(got[qsizetype(c)], expected[c])) << cases[c].name;
+}
+
+// ---------------------------------------------------------------------------
+
+TEST(DxfDatabaseEdit, NewObjectsGetRecordsAndFreshHandles) {
+  odDbInitialize();
+  const QByteArray bytes = readBytes(samplePath(kExample2000));
+  OdDbDatabasePtr db = load(bytes);
+  ASSERT_TRUE(db);
+  const quint64 seed = db->handseed().value();
+  const size_t before = entitiesOf(db->getModelSpaceId()).size();
+
+  auto layers = OdDbLayerTable::cast(db->getLayerTableId().openObject(OdDb::kForWrite).get());
+  auto newLayer = OdDbLayerTableRecord::createObject();
+  newLayer->setName("ZQ New");
+  newLayer->setColor(OdCmColor::fromIndex(5));
+  const OdDbObjectId layerId = layers->add(newLayer.get());
+  layers.release();
+
+  OdDbObjectPtr msObj = db->getModelSpaceId().openObject(OdDb::kForWrite);
+  auto* ms = static_cast<OdDbBlockTableRecord*>(msObj.get());
+  auto line = OdDbLine::createObject();
+  line->setDatabaseDefaults(db.get());
+  line->setLayer(layerId);
+  line->setStartPoint(OdGePoint3d(1, 2, 3));
+  line->setEndPoint(OdGePoint3d(4, 5, 6));
+  const OdDbObjectId lineId = ms->appendOdDbEntity(line.get());
+  auto circle = OdDbCircle::createObject();
+  circle->setDatabaseDefaults(db.get());
+  circle->setNormal(OdGeVector3d(0, 0, -1));
+  circle->setCenter(OdGePoint3d(10, 20, 30));
+  circle->setRadius(2.5);
+  const OdDbObjectId circleId = ms->appendOdDbEntity(circle.get());
+  auto lw = OdDbPolyline::createObject();
+  lw->setDatabaseDefaults(db.get());
+  lw->addVertexAt(0, OdGePoint2d(0, 0));
+  lw->addVertexAt(1, OdGePoint2d(10, 0), 1.0);
+  lw->addVertexAt(2, OdGePoint2d(10, 10));
+  lw->setClosed(true);
+  const OdDbObjectId lwId = ms->appendOdDbEntity(lw.get());
+  auto pl = OdDb2dPolyline::createObject();
+  pl->setDatabaseDefaults(db.get());
+  for (double x : {0.0, 5.0, 9.0}) {
+    OdDb2dVertexPtr v = OdDb2dVertex::createObject();
+    v->setPosition(OdGePoint3d(x, x * 2, 0));
+    pl->appendVertex(v.get());
+  }
+  const OdDbObjectId plId = ms->appendOdDbEntity(pl.get());
+  msObj.release();
+  OdDbObjectPtr psObj = db->getPaperSpaceId().openObject(OdDb::kForWrite);
+  auto point = OdDbPoint::createObject();
+  point->setDatabaseDefaults(db.get());
+  point->setPosition(OdGePoint3d(7, 8, 0));
+  const OdDbObjectId pointId = static_cast<OdDbBlockTableRecord*>(psObj.get())->appendOdDbEntity(point.get());
+  psObj.release();
+
+  for (const OdDbObjectId& id : {layerId, lineId, circleId, lwId, plId, pointId}) EXPECT_GE(id.getHandle().value(), seed);
+  QTemporaryDir dir;
+  const QString path = dir.filePath(QStringLiteral("new.dxf"));
+  QString error;
+  ASSERT_TRUE(OdDxf::writeDrawing(db.get(), path, error)) << error.toStdString();
+  const QByteArray out = readBytes(path);
+
+  // Every record of the file is still there as it was.
+  const QMap<QString, QByteArray> a = recordsOf(bytes), b = recordsOf(out);
+  for (auto it = a.begin(); it != a.end(); ++it)
+    if (it.key() != QLatin1String("$HANDSEED")) {
+      EXPECT_EQ(b.value(it.key()), it.value()) << it.key().toStdString();
+    }
+  EXPECT_NE(b.value(QStringLiteral("$HANDSEED")), a.value(QStringLiteral("$HANDSEED")));
+
+  // Our reading of it: the new entities last in their spaces, same handles.
+  OdDbDatabasePtr again = load(out);
+  ASSERT_TRUE(again);
+  const OdDbObjectIdArray ids = entitiesOf(again->getModelSpaceId());
+  ASSERT_EQ(ids.size(), before + 4);
+  EXPECT_EQ(hex(ids[before]), hex(lineId));
+  EXPECT_EQ(hex(ids[before + 3]), hex(plId));
+  EXPECT_EQ(save(again.get()), out);
+
+  if (!haveEzdxf()) GTEST_SKIP() << "ezdxf not installed";
+  bool ok = false;
+  const QJsonValue v = ezdxfJson(QStringLiteral(R"(
+import ezdxf, sys, json
+doc = ezdxf.readfile(sys.argv[1])
+db = doc.entitydb
+h = sys.argv[2:]
+line, circle, lw, pl, point = (db[x] for x in h[1:])
+print(json.dumps({
+  'seed': int(doc.header['$HANDSEED'], 16),
+  'layer': [doc.layers.get('ZQ New').dxf.handle, doc.layers.get('ZQ New').dxf.color],
+  'line': [line.dxftype(), line.dxf.layer, list(line.dxf.start), list(line.dxf.end), line.dxf.owner],
+  'circle': [list(circle.ocs().to_wcs(circle.dxf.center)), circle.dxf.radius],
+  'lw': [list(lw.get_points('xyb')), lw.closed],
+  'pl': [pl.get_mode(), [list(v.dxf.location)[:2] for v in pl.vertices]],
+  'point': [point.dxf.paperspace, list(point.dxf.location), point.dxf.owner],
+  'modelspace': [e.dxf.handle for e in doc.modelspace()][-4:],
+}))
+)"),
+                                 {path, hex(layerId), hex(lineId), hex(circleId), hex(lwId), hex(plId), hex(pointId)}, &ok);
+  ASSERT_TRUE(ok);
+  const QJsonObject r = v.toObject();
+  quint64 highest = 0;
+  for (const OdDbObjectId& id : {layerId, lineId, circleId, lwId, plId, pointId}) highest = qMax(highest, id.getHandle().value());
+  EXPECT_GT(quint64(r.value(QStringLiteral("seed")).toDouble()), highest);
+  EXPECT_TRUE(sameJson(r.value(QStringLiteral("layer")), QJsonArray{hex(layerId), 5}));
+  EXPECT_TRUE(sameJson(r.value(QStringLiteral("line")), QJsonArray{QStringLiteral("LINE"), QStringLiteral("ZQ New"),
+                                                                    xyz(1, 2, 3), xyz(4, 5, 6), hex(db->getModelSpaceId())}));
+  EXPECT_TRUE(sameJson(r.value(QStringLiteral("circle")), QJsonArray{xyz(10, 20, 30), 2.5}));
+  EXPECT_TRUE(sameJson(r.value(QStringLiteral("lw")),
+                       QJsonArray{QJsonArray{xyz(0, 0, 0), xyz(10, 0, 1), xyz(10, 10, 0)}, true}));
+  EXPECT_TRUE(sameJson(r.value(QStringLiteral("pl")),
+                       QJsonArray{QStringLiteral("AcDb2dPolyline"),
+                                  QJsonArray{QJsonArray{0, 0}, QJsonArray{5, 10}, QJsonArray{9, 18}}}));
+  EXPECT_TRUE(sameJson(r.value(QStringLiteral("point")), QJsonArray{1, xyz(7, 8, 0), hex(db->getPaperSpaceId())}));
+  EXPECT_TRUE(sameJson(r.value(QStringLiteral("modelspace")), QJsonArray{hex(lineId), hex(circleId), hex(lwId), hex(plId)}));
+}
+
+TEST(DxfDatabaseEdit, ErasedObjectsLoseTheirRecords) {
+  odDbInitialize();
+  const QByteArray bytes = readBytes(samplePath(kEntities2d));
+  OdDbDatabasePtr db = load(bytes);
+  ASSERT_TRUE(db);
+  const OdDbObjectIdArray all = entitiesOf(db->getModelSpaceId());
+  const OdDbObjectId line = firstOf(db.get(), OdDbLine::desc());
+  // The block reference with an attribute.
+  OdDbObjectId insert;
+  for (const OdDbObjectId& id : all)
+    if (id.openObject()->isA() == OdDbBlockReference::desc()) insert = id;
+  ASSERT_TRUE(line.isValid() && insert.isValid());
+  ASSERT_EQ(sequenceKeys(bytes, insert.getHandle().value()).size(), 2);
+  // The block reference's records: INSERT, its ATTRIB and SEQEND.
+  QStringList gone = sequenceKeys(bytes, insert.getHandle().value());
+  gone << QStringLiteral("#") + hex(line) << QStringLiteral("#") + hex(insert);
+  gone.sort();
+  for (const OdDbObjectId& id : {line, insert}) id.openObject(OdDb::kForWrite)->erase();
+  const QByteArray out = save(db.get());
+  EXPECT_EQ(changedRecords(bytes, out), gone);
+
+  OdDbDatabasePtr again = load(out);
+  ASSERT_TRUE(again);
+  EXPECT_EQ(entitiesOf(again->getModelSpaceId()).size(), all.size() - 2);
+  EXPECT_FALSE(again->getOdDbObjectId(line.getHandle()).isValid());
+
+  // Brought back, the line is written again, with its handle.
+  line.openObject(OdDb::kForWrite, true)->erase(false);
+  const QByteArray back = save(db.get());
+  EXPECT_EQ(changedRecords(out, back), QStringList{QStringLiteral("#") + hex(line)});
+}
+
+TEST(DxfDatabaseEdit, RenamedLayerIsRenamedWhereverItIsNamed) {
+  odDbInitialize();
+  const QByteArray bytes = readBytes(samplePath(kExample2000));
+  OdDbDatabasePtr db = load(bytes);
+  ASSERT_TRUE(db);
+  const OdDbObjectId layer = layerNamed(db.get(), "Tavolo 2");
+  ASSERT_TRUE(layer.isValid());
+  static_cast<OdDbLayerTableRecord*>(layer.openObject(OdDb::kForWrite).get())->setName("Tables");
+  const QByteArray out = save(db.get());
+  // Only records that named the layer change.
+  const QMap<QString, QByteArray> a = recordsOf(bytes);
+  int named = 0;
+  for (const QString& key : changedRecords(bytes, out)) {
+    EXPECT_TRUE(a.value(key).contains("\tTavolo 2\n")) << key.toStdString();
+    ++named;
+  }
+  EXPECT_GT(named, 1);
+  EXPECT_FALSE(out.contains("Tavolo 2\r\n"));
+  if (!haveEzdxf()) GTEST_SKIP() << "ezdxf not installed";
+  QTemporaryDir dir;
+  QFile f(dir.filePath(QStringLiteral("r.dxf")));
+  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write(out);
+  f.close();
+  bool ok = false;
+  const QJsonValue v = ezdxfJson(QStringLiteral(R"(
+import ezdxf, sys, json
+doc = ezdxf.readfile(sys.argv[1])
+def layer(e):
+    try: return e.dxf.layer
+    except Exception: return None
+used = {layer(e) for b in doc.blocks for e in b} | {layer(e) for e in doc.modelspace()}
+print(json.dumps(['Tables' in doc.layers, 'Tavolo 2' in doc.layers, 'Tavolo 2' in used, 'Tables' in used]))
+)"),
+                                 {f.fileName()}, &ok);
+  ASSERT_TRUE(ok);
+  EXPECT_EQ(v.toArray(), (QJsonArray{true, false, false, true}));
+}
+
+// ---------------------------------------------------------------------------
+// Saving
+
+TEST(DxfDatabaseSave, FailedSaveLeavesTheOldFileWhole) {
+  odDbInitialize();
+  const QByteArray bytes = readBytes(samplePath(kEntities2d));
+  OdDbDatabasePtr db = load(bytes);
+  ASSERT_TRUE(db);
+  OdDbObjectId line = firstOf(db.get(), OdDbLine::desc());
+  static_cast<OdDbLine*>(line.openObject(OdDb::kForWrite).get())->setStartPoint(OdGePoint3d(9, 9, 9));
+
+  struct Target {
+    const char* why;
+    QString path;
+  };
+  QTemporaryDir dir;
+  const QString readOnlyDir = dir.filePath(QStringLiteral("ro"));
+  QDir().mkpath(readOnlyDir);
+  QFile old(readOnlyDir + QStringLiteral("/old.dxf"));
+  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+  old.write("old contents\n");
+  old.close();
+  QFile::setPermissions(readOnlyDir, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+  // A privileged user writes into any directory; /proc takes no new files from anyone.
+  const bool privileged = QFileInfo(readOnlyDir).isWritable() || QFile(readOnlyDir + QStringLiteral("/probe")).open(QIODevice::WriteOnly);
+  QFile::remove(readOnlyDir + QStringLiteral("/probe"));
+  const Target targets[] = {
+      {"unwritable directory", privileged ? QStringLiteral("/proc/version") : old.fileName()},
+      {"no such directory", dir.filePath(QStringLiteral("missing/sub/x.dxf"))},
+  };
+  for (const Target& t : targets) {
+    SCOPED_TRACE(t.why);
+    QFile f(t.path);
+    const bool existed = f.exists();
+    const QByteArray was = existed && f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    f.close();
+    QString error;
+    EXPECT_FALSE(OdDxf::writeDrawing(db.get(), t.path, error));
+    EXPECT_TRUE(error.contains(t.path)) << error.toStdString();
+    EXPECT_EQ(QFile::exists(t.path), existed);
+    if (existed) {
+      ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+      EXPECT_EQ(f.readAll(), was);
+    }
+    // Not saved: the edit still counts as unsaved.
+    EXPECT_TRUE(line.openObject()->isModified());
+  }
+  QFile::setPermissions(readOnlyDir, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+
+  // A drawing that cannot be written (a new entity whose data the platform
+  // does not model) is refused before the file is touched.
+  const QString target = dir.filePath(QStringLiteral("keep.dxf"));
+  QString error;
+  ASSERT_TRUE(OdDxf::writeDrawing(db.get(), target, error)) << error.toStdString();
+  EXPECT_FALSE(line.openObject()->isModified());
+  const QByteArray saved = readBytes(target);
+  OdDbObjectPtr ms = db->getModelSpaceId().openObject(OdDb::kForWrite);
+  auto text = OdDbText::createObject();
+  const OdDbObjectId textId = static_cast<OdDbBlockTableRecord*>(ms.get())->appendOdDbEntity(text.get());
+  ms.release();
+  EXPECT_FALSE(OdDxf::writeDrawing(db.get(), target, error));
+  EXPECT_TRUE(error.contains(QStringLiteral("cannot be written"))) << error.toStdString();
+  EXPECT_EQ(readBytes(target), saved);
+  // Without it the drawing saves as before.
+  textId.openObject(OdDb::kForWrite)->erase();
+  ASSERT_TRUE(OdDxf::writeDrawing(db.get(), target, error)) << error.toStdString();
+  EXPECT_EQ(readBytes(target), saved);
+}
+
+// A drawing made in memory is written as an AC1015 drawing.
+TEST(DxfDatabaseSave, DrawingNotReadFromAFileIsWrittenAsR2000) {
+  odDbInitialize();
+  OdDbDatabasePtr db = OdDbDatabase::createObject();
+  db->setLUNITS(4);
+  db->setUCS(OdGePoint3d(5, 0, 0), OdGeVector3d(0, 1, 0), OdGeVector3d(-1, 0, 0));
+  OdDbObjectPtr ms = db->getModelSpaceId().openObject(OdDb::kForWrite);
+  for (int i = 0; i < 3; ++i) {
+    auto line = OdDbLine::createObject();
+    line->setDatabaseDefaults(db.get());
+    line->setEndPoint(OdGePoint3d(i + 1, 2 * i, 0));
+    line->setColorIndex(i + 1);
+    static_cast<OdDbBlockTableRecord*>(ms.get())->appendOdDbEntity(line.get());
+  }
+  ms.release();
+  const QByteArray out = save(db.get());
+  ASSERT_FALSE(out.isEmpty());
+  EXPECT_EQ(db->originalFileVersion(), OdString("AC1015"));
+  OdDbDatabasePtr again = load(out);
+  ASSERT_TRUE(again);
+  EXPECT_EQ(again->getLUNITS(), 4);
+  EXPECT_EQ(again->getUCSXDIR(), OdGeVector3d(0, 1, 0));
+  EXPECT_EQ(entitiesOf(again->getModelSpaceId()).size(), 3u);
+  EXPECT_EQ(save(again.get()), out);
+  // Saved again unedited, the first save's file comes back.
+  EXPECT_EQ(save(db.get()), out);
+
+  if (!haveEzdxf()) GTEST_SKIP() << "ezdxf not installed";
+  QTemporaryDir dir;
+  QFile f(dir.filePath(QStringLiteral("mem.dxf")));
+  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write(out);
+  f.close();
+  bool ok = false;
+  const QJsonValue v = ezdxfJson(QStringLiteral(R"(
+import ezdxf, sys, json
+doc = ezdxf.readfile(sys.argv[1])
+print(json.dumps([doc.dxfversion, doc.header['$LUNITS'], [[e.dxftype(), e.dxf.color, list(e.dxf.end)] for e in doc.modelspace()],
+                  '0' in doc.layers]))
+)"),
+                                 {f.fileName()}, &ok);
+  ASSERT_TRUE(ok);
+  EXPECT_TRUE(sameJson(v, QJsonArray{QStringLiteral("AC1015"), 4,
+                                     QJsonArray{QJsonArray{QStringLiteral("LINE"), 1, xyz(1, 0, 0)},
+                                                QJsonArray{QStringLiteral("LINE"), 2, xyz(2, 2, 0)},
+                                                QJsonArray{QStringLiteral("LINE"), 3, xyz(3, 4, 0)}},
+                                     true}));
+}
+
+}  // namespace
