@@ -121,7 +121,9 @@ TEST(ZqpropsTest, SetSavesOnlyTheEditAndKeepsTheInput) {
   // 150 in the current UCS, not in the world.
   const ProgramRun check = zqprops({out, "--handle", handle, "--list", "--json"});
   for (const QJsonValue& v : QJsonDocument::fromJson(check.out.toUtf8())["objects"][0]["rows"].toArray())
-    if (v["name"] == "Start X") EXPECT_NEAR(v["value"].toDouble(), 150.0, 1e-9);
+    if (v["name"] == "Start X") {
+      EXPECT_NEAR(v["value"].toDouble(), 150.0, 1e-9);
+    }
 }
 
 TEST(ZqpropsTest, ExitCodesAndErrorLines) {
