@@ -85,15 +85,7 @@ class DB_API OdDb2dPolyline : public OdDbCurve {
   OdGePoint3d vertexPosition(unsigned index) const;
 
   // The parameter runs as the lightweight polyline's: one per segment.
-  OdResult getStartParam(double& param) const override;
-  OdResult getEndParam(double& param) const override;
-  OdResult getStartPoint(OdGePoint3d& p) const override;
-  OdResult getEndPoint(OdGePoint3d& p) const override;
-  OdResult getPointAtParam(double param, OdGePoint3d& p) const override;
-  OdResult getDistAtParam(double param, double& dist) const override;
-  OdResult getArea(double& area) const override;
-  bool getGeomExtents(OdGeExtents3d& ext) const override;
-  void copyFrom(const OdRxObject* source) override;
+  ODDB_DECLARE_CURVE_INTERFACE();
 
  private:
   OdArray<OdDb2dVertexPtr> m_verts;

@@ -35,15 +35,7 @@ class DB_API OdDbEllipse : public OdDbCurve {
   double angleAtParam(double param) const;
 
   bool isClosed() const override;
-  OdResult getStartParam(double& param) const override;
-  OdResult getEndParam(double& param) const override;
-  OdResult getStartPoint(OdGePoint3d& p) const override;
-  OdResult getEndPoint(OdGePoint3d& p) const override;
-  OdResult getPointAtParam(double param, OdGePoint3d& p) const override;
-  OdResult getDistAtParam(double param, double& dist) const override;
-  OdResult getArea(double& area) const override;
-  bool getGeomExtents(OdGeExtents3d& ext) const override;
-  void copyFrom(const OdRxObject* source) override;
+  ODDB_DECLARE_CURVE_INTERFACE();
 
  private:
   OdGePoint3d m_center;

@@ -100,3 +100,16 @@ class DB_API OdDbCurve : public OdDbEntity {
   virtual OdResult getArea(double& area) const;
 };
 using OdDbCurvePtr = OdSmartPtr<OdDbCurve>;
+
+// The overrides of a curve class that models its geometry: the curve
+// interface, its extents and the copy of its data.
+#define ODDB_DECLARE_CURVE_INTERFACE()                                          \
+  OdResult getStartParam(double& param) const override;                       \
+  OdResult getEndParam(double& param) const override;                         \
+  OdResult getStartPoint(OdGePoint3d& p) const override;                      \
+  OdResult getEndPoint(OdGePoint3d& p) const override;                        \
+  OdResult getPointAtParam(double param, OdGePoint3d& p) const override;      \
+  OdResult getDistAtParam(double param, double& dist) const override;         \
+  OdResult getArea(double& area) const override;                              \
+  bool getGeomExtents(OdGeExtents3d& ext) const override;                     \
+  void copyFrom(const OdRxObject* source) override

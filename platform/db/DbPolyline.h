@@ -71,15 +71,7 @@ class DB_API OdDbPolyline : public OdDbCurve {
 
   // The parameter runs from 0 at vertex 0 by one per segment; param i + t
   // lies at the fraction t of segment i's length.
-  OdResult getStartParam(double& param) const override;
-  OdResult getEndParam(double& param) const override;
-  OdResult getStartPoint(OdGePoint3d& p) const override;
-  OdResult getEndPoint(OdGePoint3d& p) const override;
-  OdResult getPointAtParam(double param, OdGePoint3d& p) const override;
-  OdResult getDistAtParam(double param, double& dist) const override;
-  OdResult getArea(double& area) const override;
-  bool getGeomExtents(OdGeExtents3d& ext) const override;
-  void copyFrom(const OdRxObject* source) override;
+  ODDB_DECLARE_CURVE_INTERFACE();
 
  private:
   struct Vertex {

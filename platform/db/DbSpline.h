@@ -41,17 +41,9 @@ class DB_API OdDbSpline : public OdDbCurve {
   const OdGeDoubleArray& knots() const { assertReadEnabled(); return m_knots; }
 
   bool isClosed() const override;
-  OdResult getStartParam(double& param) const override;
-  OdResult getEndParam(double& param) const override;
-  OdResult getStartPoint(OdGePoint3d& p) const override;
-  OdResult getEndPoint(OdGePoint3d& p) const override;
-  OdResult getPointAtParam(double param, OdGePoint3d& p) const override;
-  OdResult getDistAtParam(double param, double& dist) const override;
-  // The area of the figure closed by the chord from end to start, in the
+  // getArea gives the area of the figure closed by the chord from end to start, in the
   // plane that fits the curve best (the curve is taken as planar).
-  OdResult getArea(double& area) const override;
-  bool getGeomExtents(OdGeExtents3d& ext) const override;
-  void copyFrom(const OdRxObject* source) override;
+  ODDB_DECLARE_CURVE_INTERFACE();
 
  private:
   OdGePoint3d evaluate(double u) const;
