@@ -145,7 +145,9 @@ class Reader {
   void readVersion();
   void scanHandles();
   void readPlotStyleNames();
-  void readTables(int s);
+  // Reads the TABLES section's records of the tables `want` accepts.
+  void readTables(int s, bool (*want)(int k));
+  void ensureTable(int k);
   OdDbSymbolTable* table(int k) { return static_cast<OdDbSymbolTable*>(m_tables[k].stub()->object); }
   void ensureTables();
   OdDbObjectId addImplicitRecord(int k, OdDbSymbolTableRecord* rec);
@@ -291,7 +293,7 @@ void Reader::readPlotStyleNames() {
     }
 }
 
-void Reader::readTables(int s) {
+void Reader::readTables(int s, bool (*want)(int k)) {
   Section& sec = section(s);
   int k = -1;  // the table being read
   for (int i = 0; i < sec.records.size(); ++i) {
@@ -301,7 +303,7 @@ void Reader::readTables(int s) {
       const QByteArrayView name = ni >= 0 ? r.at(ni).trimmed() : QByteArrayView();
       k = -1;
       for (int t = 0; t < kTableCount; ++t)
-        if (name == kTables[t].name) k = t;
+        if (name == kTables[t].name && want(t)) k = t;
       if (k < 0) continue;
       if (!m_tables[k].isNull()) {
         m_ctx.warn(QStringLiteral("%1: a second %2 table; its records are read into the first")
@@ -339,6 +341,7 @@ void Reader::readTables(int s) {
 }
 
 OdDbObjectId Reader::addImplicitRecord(int k, OdDbSymbolTableRecord* rec) {
+  ensureTable(k);
   const OdDbObjectId id = m_db->addOdDbObject(rec, m_tables[k]);
   rec->setModified(false);
   table(k)->appendInternal(id);
@@ -347,15 +350,17 @@ OdDbObjectId Reader::addImplicitRecord(int k, OdDbSymbolTableRecord* rec) {
   return id;
 }
 
+void Reader::ensureTable(int k) {
+  if (!m_tables[k].isNull()) return;
+  OdRxObjectPtr obj = kTables[k].tableClass()->create();
+  m_tables[k] = m_db->addOdDbObject(static_cast<OdDbObject*>(obj.get()));
+  static_cast<OdDbObject*>(obj.get())->setModified(false);
+  m_d.implicit.insert(stubOf(m_tables[k]));
+}
+
 // Tables and records every drawing has; made in memory when the file lacks them.
 void Reader::ensureTables() {
-  for (int k = 0; k < kTableCount; ++k) {
-    if (!m_tables[k].isNull()) continue;
-    OdRxObjectPtr obj = kTables[k].tableClass()->create();
-    m_tables[k] = m_db->addOdDbObject(static_cast<OdDbObject*>(obj.get()));
-    static_cast<OdDbObject*>(obj.get())->setModified(false);
-    m_d.implicit.insert(stubOf(m_tables[k]));
-  }
+  for (int k = 0; k < kTableCount; ++k) ensureTable(k);
   m_db->setTableIdsInternal(m_tables[0], m_tables[1], m_tables[2], m_tables[3], m_tables[4], m_tables[5]);
   for (const char* name : {"ByBlock", "ByLayer", "Continuous"})
     if (m_ctx.linetypes.find(QString::fromLatin1(name)).isNull()) {
@@ -554,8 +559,11 @@ void Reader::run() {
   m_d.bound.reserve(records);
   readPlotStyleNames();
   m_ctx.missingRecord = [this](NameIndex& index, const QString& name) { return missingRecord(index, name); };
+  // Linetypes first: layers name them.
   for (int s = 0; s < f.sections().size(); ++s)
-    if (section(s).name == "TABLES") readTables(s);
+    if (section(s).name == "TABLES") readTables(s, [](int k) { return k == 2; });
+  for (int s = 0; s < f.sections().size(); ++s)
+    if (section(s).name == "TABLES") readTables(s, [](int k) { return k != 2; });
   ensureTables();
   for (int s = 0; s < f.sections().size(); ++s)
     if (section(s).name == "BLOCKS") readBlocks(s);
@@ -736,17 +744,24 @@ void Writer::rename(Record& r) {
 
 void Writer::patch(Record& r, OdDbStub* stub, QList<Record>* sequence) {
   OdDbObjectPtr obj = OdDbObjectId(stub).openObject(OdDb::kForRead, true);
-  if (r.isType("TABLE") || r.isType("ENDBLK") || r.isType("SEQEND") || r.isType("VERTEX")) return;
+  // Only an object's own record is patched: not the SEQEND of a block
+  // reference, the ENDBLK of a block, the TABLE record of a table.
+  auto* btr = odrxCast<OdDbBlockTableRecord>(obj.get());
+  const bool own = btr ? r.isType("BLOCK") || r.isType("BLOCK_RECORD")
+                 : obj->isKindOf(OdDbEntity::desc()) ? entityClass(r) == obj->isA()
+                                                     : recordMapping(r.type()) == recordMapping(obj->isA()) &&
+                                                           recordMapping(obj->isA()) != nullptr;
+  if (!own) return;
   // The record as it reads now, in an object of the same class.
   OdRxObjectPtr scratch = obj->isA()->create();
   auto* before = static_cast<OdDbObject*>(scratch.get());
   m_ctx.quiet = true;
-  if (r.isType("BLOCK")) {
-    auto* btr = static_cast<OdDbBlockTableRecord*>(before);
+  if (btr && r.isType("BLOCK")) {
+    auto* was = static_cast<OdDbBlockTableRecord*>(before);
     RecordIO in(m_ctx, r, RecordIO::Read);
-    blockBeginFields(in, btr, nullptr);
+    blockBeginFields(in, was, nullptr);
     RecordIO out(m_ctx, r, RecordIO::Patch);
-    blockBeginFields(out, static_cast<OdDbBlockTableRecord*>(obj.get()), btr);
+    blockBeginFields(out, btr, was);
   } else {
     RecordIO in(m_ctx, r, RecordIO::Read);
     in.setSequence(sequence);

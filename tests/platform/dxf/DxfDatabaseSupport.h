@@ -62,8 +62,8 @@ inline QMap<QString, QByteArray> recordsOf(const QByteArray& bytes) {
     for (const OdDxf::Tag& tag : r) t += QByteArray::number(tag.code()) + '\t' + tag.raw().toByteArray() + '\n';
     return t;
   };
+  QMap<QByteArray, int> ordinal;  // across sections of one name (recover01 has several ENTITIES)
   for (const OdDxf::Section& s : f.sections()) {
-    QMap<QByteArray, int> ordinal;
     for (const OdDxf::Record& r : s.records) {
       QString key;
       if (s.name == "HEADER")
@@ -72,7 +72,7 @@ inline QMap<QString, QByteArray> recordsOf(const QByteArray& bytes) {
         key = QStringLiteral("#") + QString::number(r.handle(), 16).toUpper();
       else
         key = QStringLiteral("%1:%2#%3").arg(QString::fromLatin1(s.name), QString::fromLatin1(r.type().toByteArray()))
-                  .arg(ordinal[r.type().toByteArray()]++);
+                  .arg(ordinal[s.name + ':' + r.type().toByteArray()]++);
       out.insert(key, text(r));
     }
   }
