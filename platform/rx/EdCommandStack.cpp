@@ -57,7 +57,10 @@ OdEdCommand* OdEdCommandStack::lookupCmd(const OdString& name) const {
     return lookupGlobalCmd(OdString(name.qstring().mid(1)));
   }
   if (OdEdCommand* c = lookupLocalCmd(name)) return c;
-  return lookupGlobalCmd(name);
+  if (OdEdCommand* c = lookupGlobalCmd(name)) return c;
+  // Global names carry a leading underscore; "-PROPERTIES" finds
+  // "_-PROPERTIES" whatever the local name is in the current language.
+  return lookupGlobalCmd(OdString("_" + name.qstring()));
 }
 
 OdArray<OdEdCommand*> OdEdCommandStack::commands() const {

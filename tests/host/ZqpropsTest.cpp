@@ -237,3 +237,24 @@ TEST(ZqpropsTest, DemoSampleIsUpToDate) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(ZqpropsTest, GermanCatalogTranslatesRowsAndKeepsEnglishCommandNames) {
+  const ProgramRun list = zqprops({kDemo, "--list", "--lang", "de"});
+  ASSERT_EQ(list.code, 0) << list.err.toStdString();
+  EXPECT_TRUE(list.err.isEmpty()) << list.err.toStdString();
+  EXPECT_TRUE(list.out.contains("Kreis ["));
+  EXPECT_TRUE(list.out.contains("Allgemein/Farbe: ByLayer"));
+  EXPECT_TRUE(list.out.contains("Geometrie/Startpunkt X"));
+  // Rows are named in the catalog's language; the command keeps its global name.
+  QTemporaryDir dir;
+  const QString out = dir.filePath("out.dxf");
+  const ProgramRun set = zqprops({kDemo, "--lang", "de", "--set", "Objekthöhe=3", "-o", out});
+  EXPECT_EQ(set.code, 0) << set.err.toStdString();
+  const ProgramRun script = zqprops({kDemo, "--lang", "de"}, "-PROPERTIES\nALL\n\nX\nQUIT\n");
+  EXPECT_EQ(script.code, 0);
+  EXPECT_TRUE(script.out.contains("Objekte wählen:")) << script.out.toStdString();
+}
+
+}  // namespace
