@@ -114,9 +114,10 @@ const QByteArray& bigDrawing() {
 }
 
 void report(benchmark::State& state, qint64 bytes) {
-  state.counters["MB/s"] =
+  state.SetLabel(QStringLiteral("%1 MB, %2 entities").arg(double(bytes) / 1e6, 0, 'f', 1).arg(kEntities).toStdString());
+  state.counters["MB"] =
       benchmark::Counter(double(bytes) * double(state.iterations()) / 1e6, benchmark::Counter::kIsRate);
-  state.counters["objects/s"] =
+  state.counters["objects"] =
       benchmark::Counter(double(kEntities) * double(state.iterations()), benchmark::Counter::kIsRate);
 }
 

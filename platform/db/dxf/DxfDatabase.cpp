@@ -565,6 +565,7 @@ void Reader::run() {
   for (int s = 0; s < f.sections().size(); ++s)
     if (section(s).name == "TABLES") readTables(s, [](int k) { return k != 2; });
   ensureTables();
+  m_ctx.byLayer = OdDbObjectId();  // ByLayer may have been made just now
   for (int s = 0; s < f.sections().size(); ++s)
     if (section(s).name == "BLOCKS") readBlocks(s);
   ensureLayouts();
@@ -1110,6 +1111,7 @@ bool writeImpl(OdDbDatabase* db, QByteArray& out, QString& error) {
   // ones as they were.
   OdSmartPtr<DrawingData> work(new DrawingData(*kept));
   work->ctx.db = db;
+  work->ctx.lastLayer = work->ctx.byLayer = OdDbObjectId();
   work->ctx.warnings = nullptr;
   try {
     Writer writer(*work, *kept, db);
@@ -1132,6 +1134,7 @@ bool writeImpl(OdDbDatabase* db, QByteArray& out, QString& error) {
 
 // The names the file holds now, for the next re-reading.
 void reindex(DrawingData& d, OdDbDatabase* db) {
+  d.ctx.lastLayer = d.ctx.byLayer = OdDbObjectId();
   for (int k = 0; k < kTableCount; ++k) {
     NameIndex& index = d.ctx.*kTables[k].index;
     index.clear();

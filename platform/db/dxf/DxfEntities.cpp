@@ -124,7 +124,7 @@ void writeTrueColor(RecordIO& io, const OdCmColor& c) {
 namespace {
 
 OdDbObjectId effectiveLinetype(Context& ctx, const OdDbObjectId& id) {
-  return id.isNull() ? ctx.linetypes.find(QStringLiteral("ByLayer")) : id;
+  return id.isNull() ? ctx.byLayerLinetype() : id;
 }
 
 }  // namespace
@@ -138,7 +138,7 @@ void readOrWriteLinetype(RecordIO& io, int code, OdDbObjectId current, OdDbObjec
     return;
   }
   const OdDbObjectId now = effectiveLinetype(ctx, current);
-  const bool byLayer = now == ctx.linetypes.find(QStringLiteral("ByLayer"));
+  const bool byLayer = now == ctx.byLayerLinetype();
   if (io.mode() == RecordIO::Create ? byLayer : now == effectiveLinetype(ctx, before)) {
     io.skip(code);
   } else if (byLayer && !io.has(code)) {
@@ -157,9 +157,15 @@ void entityCommonFields(RecordIO& io, OdDbEntity* e, const OdDbEntity* before) {
 
   // 8 layer
   if (io.reading()) {
-    QString name = io.string(8, QStringLiteral("0"));
-    if (name.isEmpty()) name = QStringLiteral("0");
-    e->setLayer(lookup(ctx, ctx.layers, name));
+    const int li = io.find(8);
+    const QByteArrayView raw = li >= 0 ? io.record().at(li).raw() : QByteArrayView("0");
+    if (ctx.lastLayer.isNull() || raw != ctx.lastLayerName) {
+      QString name = li >= 0 ? io.record().str(li) : QStringLiteral("0");
+      if (name.isEmpty()) name = QStringLiteral("0");
+      ctx.lastLayer = lookup(ctx, ctx.layers, name);
+      ctx.lastLayerName = raw.toByteArray();
+    }
+    e->setLayer(ctx.lastLayer);
   } else if (create || e->layerId() != before->layerId()) {
     const QString name = recordName(e->layerId());
     io.putString(8, name.isEmpty() ? QStringLiteral("0") : name);

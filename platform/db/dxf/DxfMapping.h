@@ -85,6 +85,17 @@ struct Context {
   }
   quint64 maxNewHandle = 0;
 
+  // The layer the last entity named, by the name's bytes: most entities in
+  // a row are on one layer. Cleared whenever the names change.
+  QByteArray lastLayerName;
+  OdDbObjectId lastLayer;
+  // The ByLayer linetype, which entities without group 6 have.
+  OdDbObjectId byLayerLinetype() {
+    if (byLayer.isNull()) byLayer = linetypes.find(QStringLiteral("ByLayer"));
+    return byLayer;
+  }
+  OdDbObjectId byLayer;
+
   // "line 12" / "byte offset 345" of a tag read from the file; for tags made
   // since, the record's type and handle.
   QString where(const Record& r, int index) const;
@@ -163,7 +174,9 @@ class RecordIO {
   void moveCursor(int index) {
     if (index + 1 > m_cursor) m_cursor = index + 1;
   }
-  int xdataBegin() const;
+  // Index of the first extended data tag (1001), or the record's size; kept
+  // up to date by every insertion and removal through this object.
+  int xdataBegin() const { return m_xdata; }
   void shift(int at, int delta);
 
   Context& m_ctx;
@@ -171,7 +184,7 @@ class RecordIO {
   Mode m_mode;
   QList<Record>* m_sequence = nullptr;
   bool m_flat = false;   // no subclass markers
-  int m_begin = 1, m_end = 1, m_cursor = 1;
+  int m_begin = 1, m_end = 1, m_cursor = 1, m_xdata = 1;
 };
 
 // Exact comparison of values, NaN equal to NaN.

@@ -64,7 +64,13 @@ void Context::warn(const QString& message) {
 // Regions
 
 RecordIO::RecordIO(Context& ctx, Record& rec, Mode mode) : m_ctx(ctx), m_rec(rec), m_mode(mode) {
-  const int x = xdataBegin();
+  m_xdata = rec.size();
+  for (int i = 1; i < rec.size(); ++i)
+    if (rec.at(i).code() == 1001) {
+      m_xdata = i;
+      break;
+    }
+  const int x = m_xdata;
   m_flat = true;
   for (int i = 1; i < x && m_flat; ++i) m_flat = rec.at(i).code() != 100;
   if (mode == Create) m_flat = !ctx.markers;
@@ -73,12 +79,6 @@ RecordIO::RecordIO(Context& ctx, Record& rec, Mode mode) : m_ctx(ctx), m_rec(rec
   // New tags of a record without markers go after its handle.
   m_cursor = 1;
   while (m_cursor < x && (rec.at(m_cursor).code() == 5 || rec.at(m_cursor).code() == 105)) ++m_cursor;
-}
-
-int RecordIO::xdataBegin() const {
-  for (int i = 1; i < m_rec.size(); ++i)
-    if (m_rec.at(i).code() == 1001) return i;
-  return m_rec.size();
 }
 
 void RecordIO::subclass(QByteArrayView marker, int occurrence) {
@@ -115,6 +115,7 @@ int RecordIO::find(int code, int from) const {
 
 void RecordIO::insertAt(int index, int code) {
   m_rec.insert(index, code);
+  if (index <= m_xdata) ++m_xdata;
   if (index <= m_end) ++m_end;
   if (index < m_begin) ++m_begin;
   if (index < m_cursor) ++m_cursor;
@@ -296,12 +297,14 @@ void RecordIO::remove(int code) {
   if (i < 0) return;
   m_rec.remove(i);
   --m_end;
+  if (i < m_xdata) --m_xdata;
   if (i < m_cursor) --m_cursor;
 }
 
 void RecordIO::removeAt(int index, int count) {
   if (index < 0 || count <= 0) return;
   m_rec.remove(index, count);
+  if (index < m_xdata) m_xdata -= qMin(count, m_xdata - index);
   m_end -= qMin(count, m_end - index);
   if (m_cursor > index) m_cursor = qMax(index, m_cursor - count);
 }
