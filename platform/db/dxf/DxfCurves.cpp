@@ -9,6 +9,7 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace OdDxf::mapping {
 
@@ -58,11 +59,25 @@ void ellipseFields(Fields<OdDbEllipse>& f) {
     // The values hold together (the major axis lies in the plane of the
     // normal): they are set at once.
     const OdGePoint3d c = io.point(10);
-    const OdGePoint3d m = io.point(11, OdGePoint3d(1, 0, 0));
+    OdGeVector3d major = io.point(11, OdGePoint3d(1, 0, 0)).asVector();
     const OdGeVector3d n = readNormal(io, 210);
-    const double ratio = io.real(40, 1.0), start = io.real(41, 0.0), end = io.real(42, Oda2PI);
-    f.apply(11, [&] {
-      e->set(c, n, m.asVector(), ratio);
+    double ratio = io.real(40, 1.0), start = io.real(41, 0.0), end = io.real(42, Oda2PI);
+    if (ratio > 1 && std::isfinite(ratio) && major.isPerpendicularTo(n, OdGeTol(1e-8))) {
+      // The minor axis is the longer one: the axes are swapped, which moves
+      // the parameters back a quarter turn (the same curve).
+      io.warn(io.find(40), QStringLiteral("radius ratio %1 above 1; the axes are swapped").arg(ratio));
+      major = n.normal().crossProduct(major) * ratio;
+      ratio = 1 / ratio;
+      auto turn = [](double t) {
+        t = std::fmod(t - OdaPI / 2, Oda2PI);
+        return t < 0 ? t + Oda2PI : t;
+      };
+      const bool full = std::fabs(end - start) >= Oda2PI - 1e-12;
+      start = turn(start);
+      end = full ? start + Oda2PI : turn(end);
+    }
+    f.apply(40, [&] {
+      e->set(c, n, major, ratio);
       e->setParams(start, end);
     });
     return;

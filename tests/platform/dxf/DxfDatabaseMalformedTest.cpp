@@ -173,6 +173,37 @@ TEST(DxfDatabaseMalformed, OutOfRangeValuesAreRepairedWithAWarning) {
   }
 }
 
+// An ellipse whose ratio is above 1 (its minor axis is the longer one): the
+// axes are swapped, and the arc keeps its ends.
+TEST(DxfDatabaseMalformed, EllipseWithRatioAboveOneHasItsAxesSwapped) {
+  odDbInitialize();
+  const OdGePoint3d c(2, 3, 0);
+  const OdGeVector3d major(4, 0, 0), normal(0, 0, 1);
+  const double ratio = 1.25, start = 0.5, end = 2.5;
+  const QByteArray ellipse = "  0\nELLIPSE\n  5\n2E\n100\nAcDbEntity\n  8\n0\n100\nAcDbEllipse\n 10\n2.0\n 20\n3.0\n"
+                             " 30\n0.0\n 11\n4.0\n 21\n0.0\n 31\n0.0\n 40\n1.25\n 41\n0.5\n 42\n2.5\n";
+  const QByteArray bytes = drawing(ellipse);
+  QStringList warnings;
+  OdDbDatabasePtr db = load(bytes, &warnings);
+  ASSERT_TRUE(db);
+  ASSERT_EQ(warnings.size(), 1);
+  EXPECT_EQ(warnings[0], QStringLiteral("line %1: ELLIPSE (handle 2E): radius ratio 1.25 above 1; the axes are swapped")
+                             .arg(lineOf(bytes, "1.25")));
+  OdDbObjectPtr obj = firstOf(db.get(), OdDbEllipse::desc()).openObject();
+  auto* e = static_cast<OdDbEllipse*>(obj.get());
+  EXPECT_LE(e->radiusRatio(), 1.0);
+  // The file's curve: c + major cos t + (normal x major) ratio sin t.
+  auto at = [&](double t) { return c + major * std::cos(t) + normal.crossProduct(major) * ratio * std::sin(t); };
+  OdGePoint3d s, f;
+  ASSERT_EQ(e->getStartPoint(s), eOk);
+  ASSERT_EQ(e->getEndPoint(f), eOk);
+  EXPECT_TRUE(s.isEqualTo(at(start), OdGeTol(1e-9))) << s.x << "," << s.y;
+  EXPECT_TRUE(f.isEqualTo(at(end), OdGeTol(1e-9))) << f.x << "," << f.y;
+  obj.release();
+  touchAll(db.get(), bytes);
+  EXPECT_EQ(save(db.get()), bytes);
+}
+
 // Duplicate handles: the first record keeps the handle, later ones get fresh
 // ones (written back), $HANDSEED is raised above them; each repair is a warning.
 TEST(DxfDatabaseMalformed, DuplicateHandlesAreGivenFreshOnes) {
