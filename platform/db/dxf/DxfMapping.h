@@ -13,6 +13,9 @@
 //   Create  a record made for a new object receives every value.
 // A tag the record lacks is inserted after the tags of the fields listed
 // before it, so new tags land where the DXF reference puts them.
+//
+// Mapping a further class takes a fields function (see DxfCurves.cpp) and
+// one row in the table of DxfEntities.cpp (symbol table records: DxfTables.cpp).
 #include "DxfFile.h"
 #include "DbDatabase.h"
 #include "DbEntity.h"
