@@ -165,8 +165,8 @@ void BM_SaveEdited(benchmark::State& state) {
   report(state, bigDrawing().size());
 }
 
-BENCHMARK(BM_LoadDrawing)->Unit(benchmark::kMillisecond)->MinTime(2.0);
-BENCHMARK(BM_SaveUnedited)->Unit(benchmark::kMillisecond)->MinTime(2.0);
-BENCHMARK(BM_SaveEdited)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+BENCHMARK(BM_LoadDrawing)->Unit(benchmark::kMillisecond)->MinTime(2.0)->UseRealTime();
+BENCHMARK(BM_SaveUnedited)->Unit(benchmark::kMillisecond)->MinTime(2.0)->UseRealTime();
+BENCHMARK(BM_SaveEdited)->Unit(benchmark::kMillisecond)->MinTime(2.0)->UseRealTime();
 
 }  // namespace
