@@ -1,5 +1,5 @@
 #include "Listing.h"
-#include <QJsonArray>
+#include "JsonWriter.h"
 
 QString zqDisplayName(const OdDbObject* object) {
   CZqPropertyBase* pe = CZqPropertyPEClassFactory::providerFor(object);
@@ -8,32 +8,34 @@ QString zqDisplayName(const OdDbObject* object) {
 
 namespace {
 
-// The value of a row as JSON: full-precision numbers, strings, the tag of
-// an enumeration's current choice, null where there is no single value.
-QJsonValue valueJson(const CZqVariant& v) {
+// The value of a row: full-precision numbers, strings, the tag of an
+// enumeration's current choice, null where there is no single value.
+void writeValue(ZqJsonWriter& w, const CZqVariant& v) {
   switch (v.GetType()) {
-    case CZqVariant::kVtDouble: return v.GetDouble();
-    case CZqVariant::kVtString: return v.GetString().qstring();
-    case CZqVariant::kVtInt32: return v.GetInt32();
-    case CZqVariant::kVtColor: return v.GetColor().description().qstring();
+    case CZqVariant::kVtDouble: w.value(v.GetDouble()); return;
+    case CZqVariant::kVtString: w.value(v.GetString().qstring()); return;
+    case CZqVariant::kVtInt32: w.value(int(v.GetInt32())); return;
+    case CZqVariant::kVtColor: w.value(v.GetColor().description().qstring()); return;
     case CZqVariant::kVtCollection: {
       const CZqVariantCollection& c = v.GetCollection();
-      if (c.GetCurrent() < 0) return QJsonValue::Null;
-      return valueJson(c.GetAt(c.GetCurrent()).GetTag());
+      if (c.GetCurrent() < 0) w.null();
+      else writeValue(w, c.GetAt(c.GetCurrent()).GetTag());
+      return;
     }
-    case CZqVariant::kVtCollectionElement: return valueJson(v.GetCollectionElement().GetTag());
-    case CZqVariant::kVtId: return QString(v.GetId().getHandle().ascii());
-    default: return QJsonValue::Null;
+    case CZqVariant::kVtCollectionElement: writeValue(w, v.GetCollectionElement().GetTag()); return;
+    case CZqVariant::kVtId: w.value(v.GetId().getHandle().ascii().qstring()); return;
+    default: w.null(); return;
   }
 }
 
-QJsonValue choicesJson(const CZqVariant& v) {
-  if (v.GetType() != CZqVariant::kVtCollection) return QJsonValue::Undefined;
-  QJsonArray out;
-  const CZqVariantCollection& c = v.GetCollection();
-  for (int i = 0; i < c.GetCount(); ++i)
-    out.append(QJsonObject{{"text", c.GetAt(i).GetValue().GetString().qstring()}, {"tag", valueJson(c.GetAt(i).GetTag())}});
-  return out;
+void writeChoices(ZqJsonWriter& w, const CZqVariantCollection& c) {
+  w.key("choices").beginArray();
+  for (int i = 0; i < c.GetCount(); ++i) {
+    w.beginObject().key("text").value(c.GetAt(i).GetValue().GetString().qstring()).key("tag");
+    writeValue(w, c.GetAt(i).GetTag());
+    w.endObject();
+  }
+  w.endArray();
 }
 
 std::vector<CZqPaletteRow> rowsOf(OdDbDatabase* db, const OdDbObjectId& id) {
@@ -45,24 +47,6 @@ std::vector<CZqPaletteRow> rowsOf(OdDbDatabase* db, const OdDbObjectId& id) {
 QString handleOf(const OdDbObjectId& id) { return id.getHandle().ascii().qstring(); }
 
 }  // namespace
-
-QJsonObject zqRowsJson(OdDbDatabase* db, const OdDbObjectId& id) {
-  OdDbObjectPtr obj = id.openObject();
-  QJsonObject o{{"handle", handleOf(id)},
-                {"class", obj ? obj->isA()->name().qstring() : QString()},
-                {"name", obj ? zqDisplayName(obj.get()) : QString()}};
-  QJsonArray rows;
-  for (const CZqPaletteRow& r : rowsOf(db, id)) {
-    QJsonObject row{{"category", r.category.qstring()}, {"name", r.name.qstring()}, {"type", r.type.GetType()},
-                    {"value", r.varies ? QJsonValue(QJsonValue::Null) : valueJson(r.value)},
-                    {"text", r.text.qstring()}, {"readOnly", r.readOnly}};
-    const QJsonValue choices = choicesJson(r.value);
-    if (!choices.isUndefined()) row["choices"] = choices;
-    rows.append(row);
-  }
-  o["rows"] = rows;
-  return o;
-}
 
 void zqPrintRows(QTextStream& out, OdDbDatabase* db, const OdDbObjectId& id) {
   OdDbObjectPtr obj = id.openObject();
@@ -83,16 +67,45 @@ std::vector<CZqPrintInfoContext::Line> infoLines(OdDbDatabase* db, const OdDbObj
 }
 }  // namespace
 
-QJsonObject zqInfoJson(OdDbDatabase* db, const OdDbObjectId& id, bool inUcs) {
-  QJsonArray lines;
-  for (const auto& l : infoLines(db, id, inUcs))
-    lines.append(QJsonObject{{"label", l.label}, {"kind", CZqPrintInfoContext::kindName(l.kind)},
-                             {"value", QJsonValue::fromVariant(l.value)}, {"text", l.text}});
-  return QJsonObject{{"handle", handleOf(id)}, {"lines", lines}};
-}
-
 void zqPrintInfo(QTextStream& out, OdDbDatabase* db, const OdDbObjectId& id, bool inUcs) {
   for (const auto& l : infoLines(db, id, inUcs))
     out << QString("%1  %2").arg(l.label, 28).arg(l.text) << "\n";
   out << "\n";
+}
+
+void zqWriteListingJson(QIODevice& out, const QString& drawing, OdDbDatabase* db, const OdDbObjectIdArray& ids,
+                        const ZqJsonContent& content) {
+  ZqJsonWriter w(out);
+  w.beginObject().key("drawing").value(drawing).key("objects").beginArray();
+  for (const OdDbObjectId& id : ids) {
+    w.beginObject().key("handle").value(handleOf(id));
+    if (content.rows) {
+      OdDbObjectPtr obj = id.openObject();
+      w.key("class").value(obj ? obj->isA()->name().qstring() : QString());
+      w.key("name").value(obj ? zqDisplayName(obj.get()) : QString());
+      obj.release();
+      w.key("rows").beginArray();
+      for (const CZqPaletteRow& r : rowsOf(db, id)) {
+        w.beginObject().key("category").value(r.category.qstring()).key("name").value(r.name.qstring());
+        w.key("type").value(r.type.GetType()).key("value");
+        if (r.varies) w.null(); else writeValue(w, r.value);
+        w.key("text").value(r.text.qstring()).key("readOnly").value(r.readOnly);
+        if (r.sample.GetType() == CZqVariant::kVtCollection) writeChoices(w, r.sample.GetCollection());
+        w.endObject();
+      }
+      w.endArray();
+    }
+    if (content.info) {
+      w.key("lines").beginArray();
+      for (const auto& l : infoLines(db, id, content.inUcs)) {
+        w.beginObject().key("label").value(l.label).key("kind").value(CZqPrintInfoContext::kindName(l.kind));
+        w.key("value").value(l.value).key("text").value(l.text).endObject();
+      }
+      w.endArray();
+    }
+    w.endObject();
+  }
+  w.endArray().endObject();
+  w.flush();
+  out.write("\n");
 }

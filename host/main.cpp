@@ -15,8 +15,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <cstdio>
@@ -191,13 +189,11 @@ int main(int argc, char** argv) {
 
     if (parser.isSet(list) || parser.isSet(info)) {
       if (parser.isSet(json)) {
-        QJsonArray objects;
-        for (const OdDbObjectId& id : targets) {
-          QJsonObject o = parser.isSet(list) ? zqRowsJson(db.get(), id) : QJsonObject{{"handle", id.getHandle().ascii().qstring()}};
-          if (parser.isSet(info)) o["lines"] = zqInfoJson(db.get(), id, parser.isSet(ucs))["lines"];
-          objects.append(o);
-        }
-        out << QJsonDocument(QJsonObject{{"drawing", QFileInfo(inputPath).fileName()}, {"objects", objects}}).toJson(QJsonDocument::Indented);
+        out.flush();
+        QFile stdoutFile;
+        stdoutFile.open(stdout, QIODevice::WriteOnly);
+        zqWriteListingJson(stdoutFile, QFileInfo(inputPath).fileName(), db.get(), targets,
+                           ZqJsonContent{parser.isSet(list), parser.isSet(info), parser.isSet(ucs)});
       } else {
         for (const OdDbObjectId& id : targets) {
           if (parser.isSet(list)) zqPrintRows(out, db.get(), id);

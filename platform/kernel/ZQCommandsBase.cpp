@@ -3,7 +3,8 @@
 #include "OdDbUnitsFormatter.h"
 #include <QCoreApplication>
 #include <algorithm>
-#include <map>
+#include <QHash>
+#include <optional>
 #include <memory>
 
 const OdString CZqCommand::groupName() const { return OdString("ZQCOMMANDS"); }
@@ -49,9 +50,14 @@ QString key(const CZqString& category, const CZqString& name) { return category.
 }  // namespace
 
 std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBits) const {
-  std::vector<CZqPaletteRow> rows;
-  std::map<QString, size_t> index;
-  std::vector<int> seenCount;
+  struct Entry {
+    CZqPaletteRow row;
+    int seen = 0;      // how many of the selected objects have the row so far
+    int category = 0;  // order of first appearance of the row's category
+  };
+  std::vector<Entry> entries;
+  std::vector<QString> categories;
+  QHash<QString, size_t> index;  // only needed to match rows of further objects
   const bool multi = m_selection.size() > 1;
   int objectNo = 0;
   for (const OdDbObjectId& id : m_selection) {
@@ -63,52 +69,48 @@ std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBit
       const unsigned vis = d->GetVisibility();
       if ((vis & requiredBits) != requiredBits) continue;
       if (multi && (vis & kZqVisSingleOnly)) continue;
-      const QString k = key(d->GetCategory(), d->GetName());
-      const CZqVariant value = d->GetValue(o.object.get(), CZqVariant());
-      const bool ro = d->IsReadOnly(o.object.get());
       if (objectNo == 1) {
-        if (index.count(k)) continue;  // a name repeated within one object: the first serves
-        index[k] = rows.size();
-        CZqPaletteRow row;
-        row.category = d->GetCategory();
-        row.name = d->GetName();
-        row.type = d->GetType();
-        row.visibility = vis;
-        row.readOnly = ro;
-        row.value = value;
-        row.sample = value;
-        rows.push_back(row);
-        seenCount.push_back(1);
+        const QString k = multi ? key(d->GetCategory(), d->GetName()) : QString();
+        if (multi && index.contains(k)) continue;  // a name repeated within one object: the first serves
+        if (multi) index.insert(k, entries.size());
+        Entry e;
+        e.row.category = d->GetCategory();
+        e.row.name = d->GetName();
+        e.row.type = d->GetType();
+        e.row.visibility = vis;
+        e.row.readOnly = d->IsReadOnly(o.object.get());
+        e.row.value = d->GetValue(o.object.get(), CZqVariant());
+        e.row.sample = e.row.value;
+        e.seen = 1;
+        const QString& cat = e.row.category.qstring();
+        auto it = std::find(categories.begin(), categories.end(), cat);
+        e.category = int(it - categories.begin());
+        if (it == categories.end()) categories.push_back(cat);
+        entries.push_back(std::move(e));
       } else {
-        auto it = index.find(k);
-        if (it == index.end() || seenCount[it->second] != objectNo - 1) continue;
-        CZqPaletteRow& row = rows[it->second];
-        seenCount[it->second] = objectNo;
-        row.readOnly = row.readOnly || ro;
-        if (!row.varies && !(row.value == value)) row.varies = true;
+        auto it = index.find(key(d->GetCategory(), d->GetName()));
+        if (it == index.end() || entries[*it].seen != objectNo - 1) continue;
+        Entry& e = entries[*it];
+        e.seen = objectNo;
+        e.row.readOnly = e.row.readOnly || d->IsReadOnly(o.object.get());
+        if (!e.row.varies && !(e.row.value == d->GetValue(o.object.get(), CZqVariant()))) e.row.varies = true;
       }
     }
   }
-  // Keep the rows every object has, grouped by category in order of first appearance.
+  // The rows every object has, grouped by category in order of first appearance.
+  std::stable_sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) { return a.category < b.category; });
   std::vector<CZqPaletteRow> out;
-  std::vector<QString> categories;
-  for (size_t i = 0; i < rows.size(); ++i) {
-    if (seenCount[i] != objectNo) continue;
-    if (std::find(categories.begin(), categories.end(), rows[i].category.qstring()) == categories.end())
-      categories.push_back(rows[i].category.qstring());
-  }
-  for (const QString& cat : categories)
-    for (size_t i = 0; i < rows.size(); ++i) {
-      if (seenCount[i] != objectNo || rows[i].category.qstring() != cat) continue;
-      CZqPaletteRow row = rows[i];
-      if (row.varies) {
-        row.value = CZqVariant();
-        row.text = QCoreApplication::translate("property_values", "*VARIES*");
-      } else {
-        row.text = FormatValue(m_db, row.value, row.type);
-      }
-      out.push_back(row);
+  out.reserve(entries.size());
+  for (Entry& e : entries) {
+    if (e.seen != objectNo) continue;
+    if (e.row.varies) {
+      e.row.value = CZqVariant();
+      e.row.text = QCoreApplication::translate("property_values", "*VARIES*");
+    } else {
+      e.row.text = FormatValue(m_db, e.row.value, e.row.type);
     }
+    out.push_back(std::move(e.row));
+  }
   return out;
 }
 

@@ -4,6 +4,7 @@
 // isKindOf and throws OdError_NotThatKindOfClass when it does not fit.
 #include <utility>
 #include <cstddef>
+#include <type_traits>
 
 enum OdRxObjMod { kOdRxObjAttach };
 
@@ -23,6 +24,8 @@ class OdSmartPtr {
   OdSmartPtr& operator=(const OdSmartPtr& o) { OdSmartPtr(o).swap(*this); return *this; }
   OdSmartPtr& operator=(OdSmartPtr&& o) noexcept { OdSmartPtr(std::move(o)).swap(*this); return *this; }
   OdSmartPtr& operator=(T* p) { OdSmartPtr(p).swap(*this); return *this; }
+  template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
+  OdSmartPtr& operator=(const OdSmartPtr<U>& o) { OdSmartPtr(o).swap(*this); return *this; }
   OdSmartPtr& operator=(std::nullptr_t) { release(); return *this; }
 
   void release() { if (m_p) { T* p = std::exchange(m_p, nullptr); p->release(); } }

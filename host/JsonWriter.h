@@ -1,0 +1,47 @@
+#pragma once
+// A streaming JSON writer. A listing of a large drawing has millions of
+// rows; building them as QJsonObjects first costs several times more than
+// writing them out, so listings are written as they are produced. Readers
+// (the tests among them) use QJsonDocument.
+#include <QByteArray>
+#include <QIODevice>
+#include <QString>
+#include <QVariant>
+#include <vector>
+
+class ZqJsonWriter {
+ public:
+  explicit ZqJsonWriter(QIODevice& out) : m_out(out) { m_buffer.reserve(kFlushAt + 4096); }
+  ~ZqJsonWriter() { flush(); }
+
+  ZqJsonWriter& beginObject();
+  ZqJsonWriter& endObject();
+  ZqJsonWriter& beginArray();
+  ZqJsonWriter& endArray();
+  // The key of the next member of the current object.
+  ZqJsonWriter& key(const char* latin1Key);
+
+  ZqJsonWriter& value(const QString& s);
+  ZqJsonWriter& value(const char* latin1);
+  // Doubles are written with the fewest digits that read back to the same
+  // value; NaN and infinities, which JSON cannot hold, as null.
+  ZqJsonWriter& value(double d);
+  ZqJsonWriter& value(int i);
+  ZqJsonWriter& value(bool b);
+  ZqJsonWriter& null();
+  // Numbers, strings, bools, null and (nested) lists of them.
+  ZqJsonWriter& value(const QVariant& v);
+
+  void flush();
+
+ private:
+  static constexpr qsizetype kFlushAt = 1 << 16;
+  void separate();
+  void raw(const char* s, qsizetype n);
+  void maybeFlush();
+
+  QIODevice& m_out;
+  QByteArray m_buffer;
+  std::vector<bool> m_first;  // per open container: no member written yet
+  bool m_afterKey = false;
+};
