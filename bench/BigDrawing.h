@@ -1,0 +1,8 @@
+#pragma once
+// The drawing the benchmarks work on: an R2000 drawing of 100,000 entities
+// (lines, circles, 10-vertex lightweight polylines and texts in equal
+// numbers, on three layers), generated once per process as ASCII DXF.
+#include <QByteArray>
+
+constexpr int kEntities = 100000;
+const QByteArray& zqBigDrawing();
