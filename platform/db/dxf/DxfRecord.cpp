@@ -3,6 +3,7 @@
 // An edited or inserted tag gets its own bytes - group code, value, line end
 // (or NUL) in the record's form - in m_own; the tag's view then points there,
 // so the writer copies every tag the same way, edited or not.
+#include <cstring>
 #include "DxfInternal.h"
 
 #include <functional>
@@ -31,7 +32,11 @@ int Record::find(int code, int from) const {
 
 int Record::handleIndex() const {
   if (m_tags.isEmpty() || m_tags.front().code() != 0) return -1;
-  const int want = isType("DIMSTYLE") ? 105 : 5;
+  // Compared byte for byte: g++ 12 with -fsanitize=address,undefined folded
+  // isType("DIMSTYLE") to false here, which lost DIMSTYLE handles in
+  // sanitizer builds.
+  const QByteArrayView t = type();
+  const int want = (t.size() == 8 && std::memcmp(t.data(), "DIMSTYLE", 8) == 0) ? 105 : 5;
   // The own handle precedes the first subclass marker; an XRECORD may carry
   // group 5 as data after it.
   for (qsizetype i = 1; i < m_tags.size(); ++i) {
