@@ -1,8 +1,10 @@
-// Every fixed row of the circle, polyline, point, ray and construction-line
-// providers: category, name, editor type and identifier, read-only test,
-// setter, icons and visibility, in the order of the static list.
+// Every fixed row of the line, circle, polyline, point, ray and
+// construction-line providers: category, name, editor type and identifier,
+// read-only test, setter, icons and visibility, in the order of the static
+// list; the list's filters; and the refusals every row shares.
 #include "ZqTestSupport.h"
 #include "CZqPropertyType.h"
+#include <set>
 #include <span>
 
 namespace {
@@ -20,6 +22,21 @@ struct RowCase {
   bool hasSetter;
   const char* icon;  // empty: no icons
   unsigned visibility;
+};
+
+const RowCase kLineRows[] = {
+    {"General", "Thickness", 0, "", kEditable, true, "General_Thickness", 3 | 4},
+    {"Geometry", "Start X", 2, T::kCoordinateXGUID, kEditable, true, "Geometry_StartX", 3},
+    {"Geometry", "Start Y", 2, T::kCoordinateYGUID, kEditable, true, "Geometry_StartY", 3},
+    {"Geometry", "Start Z", 2, T::kCoordinateZGUID, kEditable, true, "Geometry_StartZ", 3},
+    {"Geometry", "End X", 2, T::kCoordinateXGUID, kEditable, true, "Geometry_EndX", 3},
+    {"Geometry", "End Y", 2, T::kCoordinateYGUID, kEditable, true, "Geometry_EndY", 3},
+    {"Geometry", "End Z", 2, T::kCoordinateZGUID, kEditable, true, "Geometry_EndZ", 3},
+    {"Geometry", "Delta X", 2, T::kCoordinateXGUID, kAlways, false, "Geometry_DeltaX", 3},
+    {"Geometry", "Delta Y", 2, T::kCoordinateYGUID, kAlways, false, "Geometry_DeltaY", 3},
+    {"Geometry", "Delta Z", 2, T::kCoordinateZGUID, kAlways, false, "Geometry_DeltaZ", 3},
+    {"Geometry", "Length", 0, "", kAlways, false, "Geometry_Length", 3},
+    {"Geometry", "Angle", 2, T::kOrientGUID, kAlways, false, "Geometry_Angle", 3},
 };
 
 const RowCase kCircleRows[] = {
@@ -76,17 +93,23 @@ struct ProviderCase {
   const char* name;
   OdRxClass* (*drawingClass)();
   std::span<const RowCase> rows;
+  const char* displayName;
+  const char* classKey;
+  friend void PrintTo(const ProviderCase& c, std::ostream* os) { *os << c.name; }
 };
 
-class ProviderRowsTest : public ZqDrawingTest, public ::testing::WithParamInterface<ProviderCase> {};
+class ProviderRowsTest : public ZqDrawingTest, public ::testing::WithParamInterface<ProviderCase> {
+ protected:
+  OdDbObjectId add(OdRxClass* cls) {
+    OdDbEntityPtr entity = OdDbEntity::cast(cls->create().get());
+    EXPECT_TRUE(entity);
+    return addToModelSpace(entity.get());
+  }
+};
 
 TEST_P(ProviderRowsTest, FixedRowsFollowTheGeneralRowsInTableOrder) {
   const ProviderCase& p = GetParam();
-  OdDbEntityPtr entity = OdDbEntity::cast(p.drawingClass()->create().get());
-  ASSERT_TRUE(entity);
-  const OdDbObjectId id = addToModelSpace(entity.get());
-  entity.release();
-  OdDbObjectPtr obj = id.openObject();
+  OdDbObjectPtr obj = add(p.drawingClass()).openObject();
   auto rows = zqRowsOf(obj.get());
   ASSERT_TRUE(rows);
   const int general = int(CZqEntityPE::GeneralRows().size());
@@ -108,7 +131,6 @@ TEST_P(ProviderRowsTest, FixedRowsFollowTheGeneralRowsInTableOrder) {
         break;
       case kNone: EXPECT_EQ(d->GetIsReadOnlyMethod(), nullptr); break;
     }
-    EXPECT_NE(d->GetGetMethod(), nullptr);
     EXPECT_EQ(d->GetSetMethod() != nullptr, c.hasSetter);
     if (*c.icon) {
       const QString group = QString(c.icon).section('_', 0, 0);
@@ -118,50 +140,86 @@ TEST_P(ProviderRowsTest, FixedRowsFollowTheGeneralRowsInTableOrder) {
       EXPECT_TRUE(d->GetDarkIcon().isEmpty());
       EXPECT_TRUE(d->GetLightIcon().isEmpty());
     }
-    EXPECT_TRUE(d->GetIcon().isEmpty());
-    EXPECT_TRUE(d->GetDescription().isEmpty());
     EXPECT_EQ(d->GetVisibility(), c.visibility);
     EXPECT_FALSE(d->IsDynamic());
   }
+  CZqPropertyBase* pe = zqProviderFor(obj.get());
+  EXPECT_EQ(pe->GetClassName(obj.get()).qstring(), p.displayName);
+  EXPECT_EQ(pe->GetClassKey().qstring(), p.classKey);
 }
 
 TEST_P(ProviderRowsTest, OwnRowsAreLeftOutForOtherClassesAndOnRequest) {
   const ProviderCase& p = GetParam();
-  OdDbEntityPtr entity = OdDbEntity::cast(p.drawingClass()->create().get());
-  const OdDbObjectId id = addToModelSpace(entity.get());
-  entity.release();
-  OdDbObjectPtr obj = id.openObject();
+  OdDbObjectPtr obj = add(p.drawingClass()).openObject();
   CZqPropertyBase* pe = zqProviderFor(obj.get());
-  const int general = int(CZqEntityPE::GeneralRows().size());
+  const int general = int(CZqEntityPE::GeneralRows().size()), all = general + int(p.rows.size());
   zqRowsOf(obj.get());  // the static list is built by now
-  struct Call { const OdRxClass* objectClass; bool excludeOwn; int count; } calls[] = {
-      {nullptr, false, general + int(p.rows.size())},
-      {p.drawingClass(), false, general + int(p.rows.size())},
-      {OdDbLine::desc(), false, general},
-      {nullptr, true, general},
+  const OdRxClass* other = p.drawingClass() == OdDbLine::desc() ? OdDbCircle::desc() : OdDbLine::desc();
+  struct Call { const OdRxClass* objectClass; const OdRxClass* providerClass; bool excludeOwn; int count; } calls[] = {
+      {nullptr, nullptr, false, all},
+      {p.drawingClass(), nullptr, false, all},
+      {other, nullptr, false, general},
+      {OdDbCurve::desc(), nullptr, false, general},
+      {nullptr, nullptr, true, general},
+      // Provider-class filter: the provider's own class, or one it does not derive from.
+      {nullptr, pe->isA(), false, all},
+      {nullptr, CZqEntityPE::desc(), false, general},
   };
   for (const Call& c : calls) {
     CZqPropertiesContainer* container = nullptr;
-    pe->GetPropertyNames(obj.get(), container, c.objectClass, nullptr, c.excludeOwn);
+    pe->GetPropertyNames(obj.get(), container, c.objectClass, c.providerClass, c.excludeOwn);
     std::unique_ptr<CZqPropertiesContainer> owned(container);
     ASSERT_TRUE(container);
     EXPECT_EQ(container->GetCount(), c.count);
   }
-  // A provider class filter that the provider does not derive from: only
-  // the general rows.
-  CZqPropertiesContainer* container = nullptr;
-  pe->GetPropertyNames(obj.get(), container, nullptr, CZqEntityPE::desc(), false);
-  std::unique_ptr<CZqPropertiesContainer> owned(container);
-  ASSERT_TRUE(container);
-  EXPECT_EQ(container->GetCount(), general);
+}
+
+// Every setter refuses, silently, an object of another class, an object open
+// for read and (rows of doubles) a value of another kind; every getter
+// answers nothing for another class's object or a closed one.
+TEST_P(ProviderRowsTest, RowsRefuseOtherObjectsAndWrongKindsSilently) {
+  const ProviderCase& p = GetParam();
+  const OdDbObjectId id = add(p.drawingClass());
+  const OdDbObjectId other = add(p.drawingClass() == OdDbPoint::desc() ? OdDbLine::desc() : OdDbPoint::desc());
+  other.openObject(OdDb::kForWrite)->setModified(false);
+  OdDbObjectPtr obj = id.openObject(OdDb::kForWrite);
+  auto rows = zqRowsOf(obj.get());
+  obj->setModified(false);
+  OdDbObject* raw = obj.get();
+  obj.release();
+  // Rows that take something other than a double have tests of their own.
+  const std::set<std::string> notDoubles{"Vertex", "Area", "Closed", "LineStyleGen", "MATCHPROP_Polyline"};
+  for (const RowCase& c : p.rows) {
+    SCOPED_TRACE(c.name);
+    CZqPropertyDescription* d = zqRow(rows.get(), c.category, c.name);
+    ASSERT_NE(d, nullptr);
+    OdDbObjectPtr o = other.openObject(OdDb::kForWrite);
+    if (std::string(c.category) != "MATCHPROP") {  // that getter answers any object's id
+      EXPECT_TRUE(d->GetValue(raw, {}).IsEmpty());  // closed
+      EXPECT_TRUE(d->GetValue(o.get(), {}).IsEmpty());
+    }
+    if (!c.hasSetter) {
+      EXPECT_EQ(d->SetValue(id.openObject(OdDb::kForWrite).get(), CZqVariant(9.0, true), {}), -5001);
+      continue;
+    }
+    EXPECT_EQ(d->SetValue(o.get(), CZqVariant(9.0, true), {}), -5001);
+    EXPECT_EQ(d->SetValue(id.openObject(OdDb::kForRead).get(), CZqVariant(9.0, true), {}), -5001);
+    if (notDoubles.count(c.name)) continue;
+    for (const CZqVariant& wrong : {CZqVariant("9"), CZqVariant(int32_t(9)), CZqVariant()})
+      EXPECT_EQ(d->SetValue(id.openObject(OdDb::kForWrite).get(), wrong, {}), -5001);
+  }
+  EXPECT_FALSE(id.openObject()->isModified());
+  EXPECT_FALSE(other.openObject()->isModified());
+  EXPECT_EQ(messageCount(), 0u);
 }
 
 INSTANTIATE_TEST_SUITE_P(Providers, ProviderRowsTest,
-                         ::testing::Values(ProviderCase{"Circle", &OdDbCircle::desc, kCircleRows},
-                                           ProviderCase{"Polyline", &OdDbPolyline::desc, kPolylineRows},
-                                           ProviderCase{"Point", &OdDbPoint::desc, kPointRows},
-                                           ProviderCase{"Ray", &OdDbRay::desc, kRayRows},
-                                           ProviderCase{"Xline", &OdDbXline::desc, kRayRows}),
+                         ::testing::Values(ProviderCase{"Line", &OdDbLine::desc, kLineRows, "Line", ""},
+                                           ProviderCase{"Circle", &OdDbCircle::desc, kCircleRows, "Circle", ""},
+                                           ProviderCase{"Polyline", &OdDbPolyline::desc, kPolylineRows, "PolyLine", ""},
+                                           ProviderCase{"Point", &OdDbPoint::desc, kPointRows, "Point", ""},
+                                           ProviderCase{"Ray", &OdDbRay::desc, kRayRows, "Ray", ""},
+                                           ProviderCase{"Xline", &OdDbXline::desc, kRayRows, "ILine", "ILINE"}),
                          [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace

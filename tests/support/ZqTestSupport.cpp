@@ -111,6 +111,18 @@ const CZqPrintInfoContext::Line* ZqDrawingTest::infoLine(const std::vector<CZqPr
   return nullptr;
 }
 
+std::vector<QString> ZqDrawingTest::labelsOf(const std::vector<CZqPrintInfoContext::Line>& lines) {
+  std::vector<QString> out;
+  for (const auto& l : lines) out.push_back(l.label);
+  return out;
+}
+
+OdGePoint3d ZqDrawingTest::toUcs(const OdGePoint3d& p) const {
+  const OdGeVector3d x = db->getUCSXDIR(), y = db->getUCSYDIR(), z = x.crossProduct(y);
+  const OdGeVector3d d = p - db->getUCSORG();
+  return {d.dotProduct(x), d.dotProduct(y), d.dotProduct(z)};
+}
+
 ZqRecordingObserver::ZqRecordingObserver() { odrxAddSystemObserver(this); }
 ZqRecordingObserver::~ZqRecordingObserver() { odrxRemoveSystemObserver(this); }
 

@@ -45,6 +45,15 @@ class ZqDrawingTest : public ::testing::Test {
   // The information lines of an object.
   std::vector<CZqPrintInfoContext::Line> info(const OdDbObjectId& id, bool inUcs = false, int maxElements = -1);
   const CZqPrintInfoContext::Line* infoLine(const std::vector<CZqPrintInfoContext::Line>& lines, const char* label);
+  static std::vector<QString> labelsOf(const std::vector<CZqPrintInfoContext::Line>& lines);
+  // A WCS point or vector in the current UCS, computed from the UCS axes
+  // (independently of the platform's coordinate service).
+  OdGePoint3d toUcs(const OdGePoint3d& p) const;
+  OdGeVector3d toUcs(const OdGeVector3d& v) const { return toUcs(OdGePoint3d::kOrigin + v) - toUcs(OdGePoint3d::kOrigin); }
+  template <class T>
+  OdSmartPtr<T> openAs(const OdDbObjectId& id, OdDb::OpenMode mode = OdDb::kForRead) {
+    return T::cast(id.openObject(mode).get());
+  }
   size_t messageCount() const { return GetZqSystemServices()->Messages().size(); }
 
   OdDbDatabasePtr db;
