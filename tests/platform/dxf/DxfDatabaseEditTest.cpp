@@ -61,24 +61,6 @@ QJsonArray ezdxfQueries(const std::vector<Query>& queries, const QString& dir) {
   return v.toArray();
 }
 
-// JSON values equal, numbers to 1e-9 relative (ezdxf computes object
-// coordinates its own way).
-::testing::AssertionResult sameJson(const QJsonValue& a, const QJsonValue& b) {
-  if (a.isDouble() && b.isDouble()) {
-    if (std::fabs(a.toDouble() - b.toDouble()) <= 1e-9 * std::max(1.0, std::fabs(b.toDouble())))
-      return ::testing::AssertionSuccess();
-  } else if (a.isArray() && b.isArray() && a.toArray().size() == b.toArray().size()) {
-    for (qsizetype i = 0; i < a.toArray().size(); ++i)
-      if (!sameJson(a.toArray()[i], b.toArray()[i])) break;
-      else if (i + 1 == a.toArray().size()) return ::testing::AssertionSuccess();
-    if (a.toArray().isEmpty()) return ::testing::AssertionSuccess();
-  } else if (a == b) {
-    return ::testing::AssertionSuccess();
-  }
-  return ::testing::AssertionFailure() << QJsonDocument(QJsonArray{a}).toJson(QJsonDocument::Compact).toStdString()
-                                       << " vs " << QJsonDocument(QJsonArray{b}).toJson(QJsonDocument::Compact).toStdString();
-}
-
 QJsonArray xyz(double x, double y, double z) { return QJsonArray{x, y, z}; }
 
 template <class T>

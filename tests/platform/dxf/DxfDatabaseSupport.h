@@ -92,6 +92,20 @@ inline QStringList changedRecords(const QByteArray& before, const QByteArray& af
   return out;
 }
 
+// JSON values equal, numbers to `tol` relative (ezdxf computes coordinates
+// its own way).
+inline ::testing::AssertionResult sameJson(const QJsonValue& a, const QJsonValue& b, double tol = 1e-9) {
+  bool same = a == b;
+  if (a.isDouble() && b.isDouble()) {
+    same = std::fabs(a.toDouble() - b.toDouble()) <= tol * std::max(1.0, std::fabs(b.toDouble()));
+  } else if (a.isArray() && b.isArray() && a.toArray().size() == b.toArray().size()) {
+    same = true;
+    for (qsizetype i = 0; same && i < a.toArray().size(); ++i) same = bool(sameJson(a.toArray()[i], b.toArray()[i], tol));
+  }
+  if (same) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << QJsonDocument(QJsonArray{a, b}).toJson(QJsonDocument::Compact).toStdString();
+}
+
 inline QString hex(const OdDbObjectId& id) { return id.getHandle().ascii().qstring(); }
 
 inline OdDbObjectIdArray entitiesOf(const OdDbObjectId& block) {
