@@ -5,6 +5,9 @@
 
 #include <QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
+
 #include <cmath>
 #include <functional>
 
@@ -100,9 +103,7 @@ QJsonValue value(const QJsonValue& v, OdDbObject*) { return v; }
 
 std::vector<EditCase> editCases() {
   const auto line = &OdDbLine::desc;
-  const auto circle = &OdDbCircle::desc;
   const auto lw = &OdDbPolyline::desc;
-  auto layer = [](const char* name) { return [name](OdDbDatabase* db) { return layerNamed(db, name); }; };
   auto header = [](OdDbDatabase*) { return OdDbObjectId(); };
   const OdCmTransparency t40 = OdCmTransparency::fromPercent(40);
   return {
@@ -115,71 +116,66 @@ std::vector<EditCase> editCases() {
       {"LineStartR26WithoutHandles", kDimR26, line, nullptr,
        [](OdDbDatabase*, OdDbObject* o) { as<OdDbLine>(o)->setStartPoint(OdGePoint3d(0.25, 0.5, 0)); },
        "e.dxf.start", FIXED(xyz(0.25, 0.5, 0))},
-      {"LineLayer", kExample2000, line, nullptr,
-       [](OdDbDatabase* db, OdDbObject* o) { as<OdDbEntity>(o)->setLayer(layerNamed(db, "Tavolo 2")); },
-       "e.dxf.layer", FIXED(QStringLiteral("Tavolo 2"))},
-      {"LineLinetype", kExample2000, line, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { ASSERT_TRUE(as<OdDbEntity>(o)->setLinetype(OdString("Continuous"))); },
-       "e.dxf.linetype.lower()", FIXED(QStringLiteral("continuous"))},
-      {"LineColorIndex", kExample2000, line, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setColorIndex(3); }, "e.dxf.color", FIXED(3)},
-      {"LineTrueColor", kText, line, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setColor(OdCmColor::fromRGB(10, 20, 30)); },
-       "e.dxf.true_color", FIXED((10 << 16) | (20 << 8) | 30)},
-      {"LineThicknessInserted", kExample2000, line, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLine>(o)->setThickness(2.5); }, "e.dxf.thickness", FIXED(2.5)},
-      {"LineLineweight", kExample2000, line, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setLineWeight(OdDb::kLnWt050); }, "e.dxf.lineweight",
-       FIXED(50)},
-      {"LineLinetypeScale", kExample2000, line, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setLinetypeScale(2.0); }, "e.dxf.ltscale", FIXED(2.0)},
-      {"LineTransparency", kText, line, nullptr,
-       [t40](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setTransparency(t40); }, "e.dxf.transparency",
-       [t40](OdDbObject*) { return QJsonValue(t40.packed()); }},
-      {"LineInvisible", kExample2000, line, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbEntity>(o)->setVisibility(false); }, "e.dxf.invisible", FIXED(1)},
-      {"LineNormal", kText, line, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLine>(o)->setNormal(OdGeVector3d(0, 0, -1)); }, "e.dxf.extrusion",
-       FIXED(xyz(0, 0, -1))},
-      {"LineHyperlink", kExample2000, line, nullptr,
+      // Values the record has and values inserted (thickness, lineweight, ...).
+      {"LineEntityProperties", kExample2000, line, nullptr,
+       [](OdDbDatabase* db, OdDbObject* o) {
+         auto* e = as<OdDbLine>(o);
+         e->setLayer(layerNamed(db, "Tavolo 2"));
+         ASSERT_TRUE(e->setLinetype(OdString("Continuous")));
+         e->setColorIndex(3);
+         e->setThickness(2.5);
+         e->setLineWeight(OdDb::kLnWt050);
+         e->setLinetypeScale(2.0);
+         e->setVisibility(false);
+       },
+       "[e.dxf.layer, e.dxf.linetype.lower(), e.dxf.color, e.dxf.thickness, e.dxf.lineweight, e.dxf.ltscale, e.dxf.invisible]",
+       FIXED((QJsonArray{QStringLiteral("Tavolo 2"), QStringLiteral("continuous"), 3, 2.5, 50, 2.0, 1}))},
+      {"LineTrueColorTransparencyNormal", kText, line, nullptr,
+       [t40](OdDbDatabase*, OdDbObject* o) {
+         as<OdDbLine>(o)->setColor(OdCmColor::fromRGB(10, 20, 30));
+         as<OdDbLine>(o)->setTransparency(t40);
+         as<OdDbLine>(o)->setNormal(OdGeVector3d(0, 0, -1));
+       },
+       "[e.dxf.true_color, e.dxf.transparency, list(e.dxf.extrusion)]",
+       [t40](OdDbObject*) { return QJsonValue(QJsonArray{(10 << 16) | (20 << 8) | 30, t40.packed(), xyz(0, 0, -1)}); }},
+      {"LineHyperlinkAndExtendedData", kText, line, nullptr,
        [](OdDbDatabase*, OdDbObject* o) {
          OdArray<OdDbHyperlink> links;
          links.append(OdDbHyperlink{OdString("https://example.com/a"), OdString("A link"), OdString("#sheet")});
          as<OdDbEntity>(o)->setHyperlinks(links);
-       },
-       "list(e.get_hyperlink())",
-       FIXED((QJsonArray{QStringLiteral("https://example.com/a"), QStringLiteral("A link"), QStringLiteral("#sheet")})),
-       {}, Extra::NewApp},
-      {"LineExtendedData", kText, line, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) {
          OdResBufPtr rb = OdResBuf::newRb(OdResBuf::kDxfRegAppName, OdString("ZQTEST"));
          rb->setNext(OdResBuf::newRb(OdResBuf::kDxfXdAsciiString, OdString("hello")).get())
              ->setNext(OdResBuf::newRb(OdResBuf::kDxfXdInteger16, 7).get())
              ->setNext(OdResBuf::newRb(OdResBuf::kDxfXdReal, 2.5).get());
          o->setXData(rb.get());
        },
-       "[[t.code, t.value] for t in e.get_xdata('ZQTEST')]",
-       FIXED((QJsonArray{QJsonArray{1000, QStringLiteral("hello")}, QJsonArray{1070, 7}, QJsonArray{1040, 2.5}})), {},
-       Extra::NewApp},
-      {"CircleRadius", kEntities2d, circle, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbCircle>(o)->setRadius(7.5); }, "e.dxf.radius", FIXED(7.5)},
-      {"CircleCenterUnderNegativeNormal", kEntities2d, circle, nullptr,
+       "[list(e.get_hyperlink()), [[t.code, t.value] for t in e.get_xdata('ZQTEST')]]",
+       FIXED((QJsonArray{QJsonArray{QStringLiteral("https://example.com/a"), QStringLiteral("A link"), QStringLiteral("#sheet")},
+                         QJsonArray{QJsonArray{1000, QStringLiteral("hello")}, QJsonArray{1070, 7}, QJsonArray{1040, 2.5}}})),
+       {}, Extra::NewApp},
+      {"CircleRadiusAndCenterUnderNegativeNormal", kEntities2d, &OdDbCircle::desc, nullptr,
        [](OdDbDatabase*, OdDbObject* o) {
          as<OdDbCircle>(o)->setNormal(OdGeVector3d(0, 0, -1));
          as<OdDbCircle>(o)->setCenter(OdGePoint3d(1, 2, 3));
+         as<OdDbCircle>(o)->setRadius(7.5);
        },
-       "[list(e.ocs().to_wcs(e.dxf.center)), list(e.dxf.extrusion)]",
-       FIXED((QJsonArray{xyz(1, 2, 3), xyz(0, 0, -1)}))},
-      {"CircleNormalTiltedKeepsWorldCenter", kEntities2d, circle, nullptr,
+       "[list(e.ocs().to_wcs(e.dxf.center)), list(e.dxf.extrusion), e.dxf.radius]",
+       FIXED((QJsonArray{xyz(1, 2, 3), xyz(0, 0, -1), 7.5}))},
+      {"CircleNormalTiltedKeepsWorldCenter", kEntities2d, &OdDbCircle::desc, nullptr,
        [](OdDbDatabase*, OdDbObject* o) { as<OdDbCircle>(o)->setNormal(OdGeVector3d(0.6, 0, 0.8)); },
        "list(e.ocs().to_wcs(e.dxf.center))",
        [](OdDbObject* o) {
          const OdGePoint3d c = as<OdDbCircle>(o)->center();
          return QJsonValue(xyz(c.x, c.y, c.z));
        }},
-      {"PolylineVertexMoved", kEntities2d, lw, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbPolyline>(o)->setPointAt(0, OdGePoint2d(5.5, -1.25)); },
-       "list(e.get_points('xy'))[0]", FIXED((QJsonArray{5.5, -1.25}))},
+      {"PolylineVertexMovedClosedAndElevated", kEntities2d, lw, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         as<OdDbPolyline>(o)->setPointAt(0, OdGePoint2d(5.5, -1.25));
+         as<OdDbPolyline>(o)->setClosed(!as<OdDbPolyline>(o)->isClosed());
+         as<OdDbPolyline>(o)->setElevation(4.5);
+       },
+       "[list(e.get_points('xy'))[0], e.closed, e.dxf.elevation]",
+       [](OdDbObject* o) { return QJsonValue(QJsonArray{QJsonArray{5.5, -1.25}, as<OdDbPolyline>(o)->isClosed(), 4.5}); }},
       {"PolylineVertexAdded", kEntities2d, lw, nullptr,
        [](OdDbDatabase*, OdDbObject* o) {
          auto* p = as<OdDbPolyline>(o);
@@ -187,12 +183,6 @@ std::vector<EditCase> editCases() {
        },
        "[len(e), list(e.get_points('xyb'))[-1]]",
        [](OdDbObject* o) { return QJsonValue(QJsonArray{int(as<OdDbPolyline>(o)->numVerts()), QJsonArray{100, 200, 0.5}}); }},
-      {"PolylineClosedAndElevated", kEntities2d, lw, nullptr,
-       [](OdDbDatabase*, OdDbObject* o) {
-         as<OdDbPolyline>(o)->setClosed(!as<OdDbPolyline>(o)->isClosed());
-         as<OdDbPolyline>(o)->setElevation(4.5);
-       },
-       "[e.closed, e.dxf.elevation]", [](OdDbObject* o) { return QJsonValue(QJsonArray{as<OdDbPolyline>(o)->isClosed(), 4.5}); }},
       {"PointPosition", kEntities2d, &OdDbPoint::desc, nullptr,
        [](OdDbDatabase*, OdDbObject* o) { as<OdDbPoint>(o)->setPosition(OdGePoint3d(3, 4, 5)); }, "e.dxf.location",
        FIXED(xyz(3, 4, 5))},
@@ -238,38 +228,30 @@ std::vector<EditCase> editCases() {
        "[len(e.vertices), list(e.vertices[-1].dxf.location)[:2], e.vertices[-1].dxf.bulge]",
        [](OdDbObject* o) { return QJsonValue(QJsonArray{int(as<OdDb2dPolyline>(o)->numVerts()), QJsonArray{40, 50}, 0.25}); },
        {"$HANDSEED"}, Extra::Sequence},
-      {"LayerColor", kExample2000, nullptr, layer("Tavolo 2"),
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLayerTableRecord>(o)->setColor(OdCmColor::fromIndex(1)); },
-       "doc.layers.get('Tavolo 2').dxf.color", FIXED(1)},
-      {"LayerOff", kExample2000, nullptr, layer("Tavolo 2"),
-       [](OdDbDatabase*, OdDbObject* o) { as<OdDbLayerTableRecord>(o)->setIsOff(true); },
-       "doc.layers.get('Tavolo 2').is_off()", FIXED(true)},
-      {"LayerFrozenLocked", kExample2000, nullptr, layer("Tavolo 2"),
-       [](OdDbDatabase*, OdDbObject* o) {
-         as<OdDbLayerTableRecord>(o)->setIsFrozen(true);
-         as<OdDbLayerTableRecord>(o)->setIsLocked(true);
+      {"LayerProperties", kExample2000, nullptr, [](OdDbDatabase* db) { return layerNamed(db, "Tavolo 2"); },
+       [t40](OdDbDatabase*, OdDbObject* o) {
+         auto* l = as<OdDbLayerTableRecord>(o);
+         l->setColor(OdCmColor::fromIndex(1));
+         l->setIsOff(true);
+         l->setIsFrozen(true);
+         l->setIsLocked(true);
+         l->setIsPlottable(false);
+         l->setLineWeight(OdDb::kLnWt035);
+         l->setTransparency(t40);
        },
-       "(lambda l: [l.is_frozen(), l.is_locked()])(doc.layers.get('Tavolo 2'))", FIXED((QJsonArray{true, true}))},
-      {"LayerPlotAndLineweight", kExample2000, nullptr, layer("Tavolo 2"),
-       [](OdDbDatabase*, OdDbObject* o) {
-         as<OdDbLayerTableRecord>(o)->setIsPlottable(false);
-         as<OdDbLayerTableRecord>(o)->setLineWeight(OdDb::kLnWt035);
-       },
-       "(lambda l: [l.dxf.plot, l.dxf.lineweight])(doc.layers.get('Tavolo 2'))", FIXED((QJsonArray{0, 35}))},
-      {"LayerTransparency", kExample2000, nullptr, layer("Tavolo 2"),
-       [t40](OdDbDatabase*, OdDbObject* o) { as<OdDbLayerTableRecord>(o)->setTransparency(t40); },
-       "[[t.code, t.value] for t in doc.layers.get('Tavolo 2').get_xdata('AcCmTransparency')]",
-       [t40](OdDbObject*) { return QJsonValue(QJsonArray{QJsonArray{1071, t40.packed()}}); }, {}, Extra::NewApp},
-      {"HeaderUnits", kExample2000, nullptr, header,
+       "(lambda l: [l.color, l.is_off(), l.is_frozen(), l.is_locked(), l.dxf.plot, l.dxf.lineweight,"
+       " [[t.code, t.value] for t in l.get_xdata('AcCmTransparency')]])(doc.layers.get('Tavolo 2'))",
+       [t40](OdDbObject*) { return QJsonValue(QJsonArray{1, true, true, true, 0, 35, QJsonArray{QJsonArray{1071, t40.packed()}}}); },
+       {}, Extra::NewApp},
+      {"HeaderUnitsAndUcs", kText, nullptr, header,
        [](OdDbDatabase* db, OdDbObject*) {
          db->setLUNITS(4);
          db->setINSUNITS(6);
+         db->setUCS(OdGePoint3d(1, 2, 3), OdGeVector3d(0, 1, 0), OdGeVector3d(-1, 0, 0));
        },
-       "[doc.header['$LUNITS'], doc.header['$INSUNITS']]", FIXED((QJsonArray{4, 6})), {"$INSUNITS", "$LUNITS"}},
-      {"HeaderUcs", kText, nullptr, header,
-       [](OdDbDatabase* db, OdDbObject*) { db->setUCS(OdGePoint3d(1, 2, 3), OdGeVector3d(0, 1, 0), OdGeVector3d(-1, 0, 0)); },
-       "[list(doc.header['$UCSORG']), list(doc.header['$UCSXDIR']), list(doc.header['$UCSYDIR'])]",
-       FIXED((QJsonArray{xyz(1, 2, 3), xyz(0, 1, 0), xyz(-1, 0, 0)})), {"$UCSORG", "$UCSXDIR", "$UCSYDIR"}},
+       "[doc.header['$LUNITS'], doc.header['$INSUNITS'], list(doc.header['$UCSORG']), list(doc.header['$UCSXDIR']),"
+       " list(doc.header['$UCSYDIR'])]",
+       FIXED((QJsonArray{4, 6, xyz(1, 2, 3), xyz(0, 1, 0), xyz(-1, 0, 0)})), {"$INSUNITS", "$LUNITS", "$UCSORG", "$UCSXDIR", "$UCSYDIR"}},
       {"HeaderVariableTheFileLacks", kDimR26, nullptr, header,
        [](OdDbDatabase* db, OdDbObject*) { db->setMEASUREMENT(1); }, "doc.header['$MEASUREMENT']", FIXED(1),
        {"$MEASUREMENT"}},
@@ -375,43 +357,37 @@ TEST(DxfDatabaseEdit, NewObjectsGetRecordsAndFreshHandles) {
   newLayer->setColor(OdCmColor::fromIndex(5));
   const OdDbObjectId layerId = layers->add(newLayer.get());
   layers.release();
-
-  OdDbObjectPtr msObj = db->getModelSpaceId().openObject(OdDb::kForWrite);
-  auto* ms = static_cast<OdDbBlockTableRecord*>(msObj.get());
+  auto append = [&](const OdDbObjectId& space, OdDbEntity* e) {
+    OdDbObjectPtr block = space.openObject(OdDb::kForWrite);
+    e->setDatabaseDefaults(db.get());
+    return static_cast<OdDbBlockTableRecord*>(block.get())->appendOdDbEntity(e);
+  };
   auto line = OdDbLine::createObject();
-  line->setDatabaseDefaults(db.get());
-  line->setLayer(layerId);
   line->setStartPoint(OdGePoint3d(1, 2, 3));
   line->setEndPoint(OdGePoint3d(4, 5, 6));
-  const OdDbObjectId lineId = ms->appendOdDbEntity(line.get());
+  const OdDbObjectId lineId = append(db->getModelSpaceId(), line.get());
+  line->setLayer(layerId);
   auto circle = OdDbCircle::createObject();
-  circle->setDatabaseDefaults(db.get());
   circle->setNormal(OdGeVector3d(0, 0, -1));
   circle->setCenter(OdGePoint3d(10, 20, 30));
   circle->setRadius(2.5);
-  const OdDbObjectId circleId = ms->appendOdDbEntity(circle.get());
+  const OdDbObjectId circleId = append(db->getModelSpaceId(), circle.get());
   auto lw = OdDbPolyline::createObject();
-  lw->setDatabaseDefaults(db.get());
   lw->addVertexAt(0, OdGePoint2d(0, 0));
   lw->addVertexAt(1, OdGePoint2d(10, 0), 1.0);
   lw->addVertexAt(2, OdGePoint2d(10, 10));
   lw->setClosed(true);
-  const OdDbObjectId lwId = ms->appendOdDbEntity(lw.get());
+  const OdDbObjectId lwId = append(db->getModelSpaceId(), lw.get());
   auto pl = OdDb2dPolyline::createObject();
-  pl->setDatabaseDefaults(db.get());
   for (double x : {0.0, 5.0, 9.0}) {
     OdDb2dVertexPtr v = OdDb2dVertex::createObject();
     v->setPosition(OdGePoint3d(x, x * 2, 0));
     pl->appendVertex(v.get());
   }
-  const OdDbObjectId plId = ms->appendOdDbEntity(pl.get());
-  msObj.release();
-  OdDbObjectPtr psObj = db->getPaperSpaceId().openObject(OdDb::kForWrite);
+  const OdDbObjectId plId = append(db->getModelSpaceId(), pl.get());
   auto point = OdDbPoint::createObject();
-  point->setDatabaseDefaults(db.get());
   point->setPosition(OdGePoint3d(7, 8, 0));
-  const OdDbObjectId pointId = static_cast<OdDbBlockTableRecord*>(psObj.get())->appendOdDbEntity(point.get());
-  psObj.release();
+  const OdDbObjectId pointId = append(db->getPaperSpaceId(), point.get());
 
   for (const OdDbObjectId& id : {layerId, lineId, circleId, lwId, plId, pointId}) EXPECT_GE(id.getHandle().value(), seed);
   QTemporaryDir dir;
@@ -551,45 +527,52 @@ print(json.dumps(['Tables' in doc.layers, 'Tavolo 2' in doc.layers, 'Tavolo 2' i
 
 TEST(DxfDatabaseSave, FailedSaveLeavesTheOldFileWhole) {
   odDbInitialize();
-  const QByteArray bytes = readBytes(samplePath(kEntities2d));
-  OdDbDatabasePtr db = load(bytes);
+  OdDbDatabasePtr db = load(readBytes(samplePath(kEntities2d)));
   ASSERT_TRUE(db);
   OdDbObjectId line = firstOf(db.get(), OdDbLine::desc());
   static_cast<OdDbLine*>(line.openObject(OdDb::kForWrite).get())->setStartPoint(OdGePoint3d(9, 9, 9));
 
-  struct Target {
-    const char* why;
-    QString path;
-  };
   QTemporaryDir dir;
-  const QString readOnlyDir = dir.filePath(QStringLiteral("ro"));
+  const QString readOnlyDir = dir.filePath(QStringLiteral("ro")), old = readOnlyDir + QStringLiteral("/old.dxf");
   QDir().mkpath(readOnlyDir);
-  QFile old(readOnlyDir + QStringLiteral("/old.dxf"));
-  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-  old.write("old contents\n");
-  old.close();
+  QFile f(old);
+  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write("old contents\n");
+  f.close();
+  const QString small = dir.filePath(QStringLiteral("small.dxf"));
+  QFile::copy(samplePath(kDimR26), small);  // smaller than the drawing
+  QFile::setPermissions(small, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
   QFile::setPermissions(readOnlyDir, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
   // A privileged user writes into any directory; /proc takes no new files from anyone.
   const bool privileged = QFileInfo(readOnlyDir).isWritable() || QFile(readOnlyDir + QStringLiteral("/probe")).open(QIODevice::WriteOnly);
   QFile::remove(readOnlyDir + QStringLiteral("/probe"));
-  const Target targets[] = {
-      {"unwritable directory", privileged ? QStringLiteral("/proc/version") : old.fileName()},
-      {"no such directory", dir.filePath(QStringLiteral("missing/sub/x.dxf"))},
+  struct Target {
+    const char* why;
+    QString path;
+    rlim_t sizeLimit;  // RLIM_INFINITY: none
+  } targets[] = {
+      {"unwritable directory", privileged ? QStringLiteral("/proc/version") : old, RLIM_INFINITY},
+      {"no such directory", dir.filePath(QStringLiteral("missing/sub/x.dxf")), RLIM_INFINITY},
+      {"file size limit reached half way", small, 12 * 1024},
   };
   for (const Target& t : targets) {
     SCOPED_TRACE(t.why);
-    QFile f(t.path);
-    const bool existed = f.exists();
-    const QByteArray was = existed && f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    f.close();
+    const bool existed = QFile::exists(t.path);
+    const QByteArray was = readBytes(t.path);
+    rlimit saved{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &saved), 0);
+    auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limited = saved;
+    limited.rlim_cur = std::min(t.sizeLimit, saved.rlim_max);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
     QString error;
-    EXPECT_FALSE(OdDxf::writeDrawing(db.get(), t.path, error));
+    const bool written = OdDxf::writeDrawing(db.get(), t.path, error);
+    setrlimit(RLIMIT_FSIZE, &saved);
+    std::signal(SIGXFSZ, oldHandler);
+    EXPECT_FALSE(written);
     EXPECT_TRUE(error.contains(t.path)) << error.toStdString();
     EXPECT_EQ(QFile::exists(t.path), existed);
-    if (existed) {
-      ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-      EXPECT_EQ(f.readAll(), was);
-    }
+    EXPECT_EQ(readBytes(t.path), was);
     // Not saved: the edit still counts as unsaved.
     EXPECT_TRUE(line.openObject()->isModified());
   }

@@ -233,8 +233,17 @@ TEST(DxfDatabaseMalformed, DuplicateHandlesAreGivenFreshOnes) {
     }
   }
   int duplicates = 0;
-  for (const auto& [h, n] : seen) duplicates += n - 1;
+  QList<quint64> duplicated;
+  for (const auto& [h, n] : seen) {
+    duplicates += n - 1;
+    if (n > 1) duplicated.append(h.toULongLong(nullptr, 16));
+  }
   ASSERT_GT(duplicates, 0);
+  std::sort(duplicated.begin(), duplicated.end());
+  OdDxf::File original;
+  QString error;
+  ASSERT_TRUE(OdDxf::File::read(bytes, original, error));
+  EXPECT_EQ(original.duplicateHandles(), duplicated);
 
   QStringList warnings;
   OdDbDatabasePtr db = load(bytes, &warnings);
@@ -254,7 +263,6 @@ TEST(DxfDatabaseMalformed, DuplicateHandlesAreGivenFreshOnes) {
   // record changed in its handle only.
   const QByteArray out = save(db.get());
   OdDxf::File f;
-  QString error;
   ASSERT_TRUE(OdDxf::File::read(out, f, error));
   EXPECT_TRUE(f.duplicateHandles().isEmpty());
   quint64 highest = 0;
@@ -284,7 +292,10 @@ TEST(DxfDatabaseMalformed, ScatteredSectionsAreReadWhole) {
   OdDbDatabasePtr db = load(bytes, &warnings);
   ASSERT_TRUE(db);
   EXPECT_EQ(warnings.filter(QStringLiteral("more than one ENTITIES section")).size(), 1);
-  EXPECT_EQ(warnings.filter(QStringLiteral("EOF missing")).size(), 1);
+  for (const char* w : {"line 1141: 8 tags after ENDSEC of section ENTITIES kept as they are",
+                        "line 1157: 'ENDSEC' outside any section kept as it is",
+                        "line 29473: EOF missing at the end of the file; added"})
+    EXPECT_TRUE(warnings.contains(QLatin1String(w))) << w;
   int lines = 0, texts = 0;
   for (const LineTag& t : plainTags(bytes))
     if (t.code == 0) {
@@ -366,39 +377,41 @@ TEST(DxfDatabaseMalformed, DrawingWithoutHandlesKeepsHavingNone) {
   EXPECT_EQ(out.toStdString(), expected.toStdString());
 }
 
-// Damaged copies of a real drawing: each is refused with a place or loaded;
-// what loads can be written. Never a crash.
+// Damaged copies of a real drawing, ASCII and binary: each is refused with a
+// place or loaded; what loads can be written. Never a crash.
 TEST(DxfDatabaseMalformed, DamagedDrawingsNeverCrash) {
   odDbInitialize();
-  const QByteArray bytes = readBytes(samplePath(QStringLiteral("libredwg__test__test-data__2000__entities-3d.dxf")));
-  ASSERT_FALSE(bytes.isEmpty());
+  const QByteArray ascii = readBytes(samplePath(QStringLiteral("libredwg__test__test-data__2000__entities-3d.dxf")));
+  OdDxf::File f;
+  QString error;
+  ASSERT_TRUE(OdDxf::File::read(ascii, f, error));
   std::mt19937 rng(20240611);
-  int refused = 0, loaded = 0;
-  for (int i = 0; i < 400; ++i) {
-    QByteArray damaged = bytes;
-    const int kind = i % 4;
-    const qsizetype at = qsizetype(rng() % quint32(damaged.size()));
-    if (kind == 0) damaged[at] = char(rng() % 256);                  // a byte changed
-    else if (kind == 1) damaged.remove(at, qsizetype(rng() % 64));   // bytes lost
-    else if (kind == 2) damaged.truncate(at);                        // cut short
-    else damaged.insert(at, QByteArray("\n  0\nLINE\n 10\n"));       // a record cut in
-    QString error;
-    QStringList warnings;
-    OdDbDatabasePtr db = OdDxf::readDrawing(damaged, error, &warnings);
-    if (!db) {
-      ++refused;
-      EXPECT_TRUE(QRegularExpression(QStringLiteral("^(line \\d+|byte offset \\d+): ")).match(error).hasMatch())
-          << error.toStdString();
-      continue;
+  for (const QByteArray& bytes : {ascii, f.write(OdDxf::File::Form::Binary)}) {
+    int refused = 0, loaded = 0;
+    for (int i = 0; i < 200; ++i) {
+      QByteArray damaged = bytes;
+      const int kind = i % 4;
+      const qsizetype at = qsizetype(rng() % quint32(damaged.size()));
+      if (kind == 0) damaged[at] = char(rng() % 256);                  // a byte changed
+      else if (kind == 1) damaged.remove(at, qsizetype(rng() % 64));   // bytes lost
+      else if (kind == 2) damaged.truncate(at);                        // cut short
+      else damaged.insert(at, QByteArray("\n  0\nLINE\n 10\n"));       // a record cut in
+      QStringList warnings;
+      OdDbDatabasePtr db = OdDxf::readDrawing(damaged, error, &warnings);
+      if (!db) {
+        ++refused;
+        EXPECT_TRUE(QRegularExpression(QStringLiteral("^(line \\d+|byte offset \\d+): ")).match(error).hasMatch())
+            << error.toStdString();
+        continue;
+      }
+      ++loaded;
+      QString writeError;
+      EXPECT_FALSE(OdDxf::writeDrawing(db.get(), &writeError).isEmpty());
+      EXPECT_TRUE(writeError.isEmpty()) << writeError.toStdString();
     }
-    ++loaded;
-    QString writeError;
-    const QByteArray out = OdDxf::writeDrawing(db.get(), &writeError);
-    EXPECT_TRUE(writeError.isEmpty()) << writeError.toStdString();
-    EXPECT_FALSE(out.isEmpty());
+    EXPECT_GT(refused, 0);
+    EXPECT_GT(loaded, 0);
   }
-  EXPECT_GT(refused, 0);
-  EXPECT_GT(loaded, 0);
 }
 
 }  // namespace

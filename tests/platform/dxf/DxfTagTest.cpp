@@ -1,11 +1,6 @@
 // Group code types and the typed accessors of single tags, in ASCII and binary.
 #include "DxfTestSupport.h"
 
-#include <QTemporaryDir>
-
-#include <csignal>
-#include <sys/resource.h>
-
 using namespace OdDxf;
 using namespace dxftest;
 
@@ -96,42 +91,6 @@ TEST(DxfTagValue, BinaryChunksAndText) {
   r.at(2).bytes(&ok);
   EXPECT_FALSE(ok);
   EXPECT_EQ(r.str(3), QStringLiteral("Zähler Ж"));  // no $DWGCODEPAGE, not UTF-8: ANSI_1252
-}
-
-TEST(DxfSave, WritesThroughATemporaryFileAndReportsFailure) {
-  QTemporaryDir dir;
-  ASSERT_TRUE(dir.isValid());
-  File f;
-  QString error;
-  ASSERT_TRUE(File::load(samplePath(QStringLiteral("libredwg__test__test-data__example_2000.dxf")), f, error));
-  const QString path = dir.filePath(QStringLiteral("out.dxf"));
-  ASSERT_TRUE(f.save(path, error)) << error.toStdString();
-  EXPECT_EQ(readBytes(path), readBytes(samplePath(QStringLiteral("libredwg__test__test-data__example_2000.dxf"))));
-
-  // A save that fails half way (file size limit) leaves the old file whole.
-  File small;
-  ASSERT_TRUE(File::load(samplePath(QStringLiteral("libredwg__test__test-data__r2.6__dim.dxf")), small, error));
-  ASSERT_TRUE(small.save(path, error));
-  const QByteArray old = readBytes(path);
-  rlimit saved{};
-  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &saved), 0);
-  auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit limited = saved;
-  limited.rlim_cur = 64 * 1024;
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
-  error.clear();
-  const bool saved1 = f.save(path, error);
-  setrlimit(RLIMIT_FSIZE, &saved);
-  std::signal(SIGXFSZ, oldHandler);
-  EXPECT_FALSE(saved1);
-  EXPECT_TRUE(error.contains(path)) << error.toStdString();
-  EXPECT_EQ(readBytes(path), old);
-
-  EXPECT_FALSE(f.save(dir.filePath(QStringLiteral("no/such/dir/out.dxf")), error));
-  EXPECT_FALSE(error.isEmpty());
-  File missing;
-  EXPECT_FALSE(File::load(dir.filePath(QStringLiteral("missing.dxf")), missing, error));
-  EXPECT_TRUE(error.startsWith(QStringLiteral("cannot open"))) << error.toStdString();
 }
 
 }  // namespace
