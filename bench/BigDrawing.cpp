@@ -50,7 +50,7 @@ const QByteArray& zqBigDrawing() {
       }
     });
     table("STYLE", 0x3, [&] {
-      tag(0, "STYLE"); tag(5, "11"); tag(330, "3"); tag(100, "AcDbSymbolTableRecord");
+      tag(0, "STYLE"); tag(5, "13"); tag(330, "3"); tag(100, "AcDbSymbolTableRecord");
       tag(100, "AcDbTextStyleTableRecord"); tag(2, "Standard"); tag(70, "     0"); tag(40, "0.0"); tag(41, "1.0");
       tag(50, "0.0"); tag(71, "     0"); tag(42, "2.5"); tag(3, "txt"); tag(4, "");
     });

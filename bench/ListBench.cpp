@@ -25,6 +25,7 @@ struct Drawing {
     odrxDynamicLinker()->loadModule("ZQProperties");
     QString error;
     db = OdDxf::readDrawing(zqBigDrawing(), error);
+    if (!db) qFatal("the generated drawing does not load: %s", qPrintable(error));
     OdDbObjectPtr ms = db->getModelSpaceId().openObject();
     ids = static_cast<OdDbBlockTableRecord*>(ms.get())->entityIds();
   }
