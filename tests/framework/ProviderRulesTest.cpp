@@ -39,9 +39,7 @@ TEST_F(ProviderRulesTest, ClassesWithoutARowFallBackToTheirNearestAttachedParent
   const OdDbObjectId id = addToModelSpace(wipeout.get());
   wipeout.release();
   const auto lines = info(id);
-  std::vector<QString> labels;
-  for (const auto& l : lines) labels.push_back(l.label);
-  EXPECT_EQ(labels, (std::vector<QString>{"Class name", "Handle", "Layer", "Space", "Color", "Linetype"}));
+  EXPECT_EQ(labelsOf(lines), (std::vector<QString>{"Class name", "Handle", "Layer", "Space", "Color", "Linetype"}));
   EXPECT_EQ(lines[0].text, "WIPEOUT");
   EXPECT_EQ(lines[3].text, "Model space");
 }
