@@ -173,6 +173,9 @@ class RecordIO {
   QString where(int index) const { return m_ctx.where(m_rec, index); }
 
  private:
+  // The tag a put writes code's value to: the record's own (cursor moved
+  // past it, existing true) or a new one inserted at the cursor.
+  int slot(int code, bool& existing);
   void insertAt(int index, int code);
   void moveCursor(int index) {
     if (index + 1 > m_cursor) m_cursor = index + 1;

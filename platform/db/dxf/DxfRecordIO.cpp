@@ -216,57 +216,44 @@ OdGeVector3d readNormal(const RecordIO& io, int code) {
 // Writing. A tag whose value already reads back as the one to write keeps its
 // bytes ("1.000000" stays as it is for 1.0).
 
-void RecordIO::putReal(int code, double v) {
+int RecordIO::slot(int code, bool& existing) {
   int i = find(code);
-  if (i < 0) {
+  existing = i >= 0;
+  if (existing) {
+    moveCursor(i);
+  } else {
     i = m_cursor;
     insertAt(i, code);
-  } else {
-    bool ok = false;
-    const double old = m_rec.at(i).real(&ok);
-    moveCursor(i);
-    if (ok && same(old, v) && std::signbit(old) == std::signbit(v)) return;
   }
+  return i;
+}
+
+void RecordIO::putReal(int code, double v) {
+  bool existing = false, ok = false;
+  const int i = slot(code, existing);
+  const double old = existing ? m_rec.at(i).real(&ok) : 0.0;
+  if (ok && same(old, v) && std::signbit(old) == std::signbit(v)) return;
   m_rec.setReal(i, v);
 }
 
 void RecordIO::putInteger(int code, qint64 v) {
-  int i = find(code);
-  if (i < 0) {
-    i = m_cursor;
-    insertAt(i, code);
-  } else {
-    bool ok = false;
-    const qint64 old = m_rec.at(i).integer(&ok);
-    moveCursor(i);
-    if (ok && old == v) return;
-  }
+  bool existing = false, ok = false;
+  const int i = slot(code, existing);
+  if (existing && m_rec.at(i).integer(&ok) == v && ok) return;
   m_rec.setInteger(i, v);
 }
 
 void RecordIO::putString(int code, const QString& v) {
-  int i = find(code);
-  if (i < 0) {
-    i = m_cursor;
-    insertAt(i, code);
-  } else {
-    moveCursor(i);
-    if (m_rec.str(i) == v) return;
-  }
+  bool existing = false;
+  const int i = slot(code, existing);
+  if (existing && m_rec.str(i) == v) return;
   m_rec.setString(i, v);
 }
 
 void RecordIO::putHandle(int code, quint64 h) {
-  int i = find(code);
-  if (i < 0) {
-    i = m_cursor;
-    insertAt(i, code);
-  } else {
-    bool ok = false;
-    const quint64 old = m_rec.at(i).handle(&ok);
-    moveCursor(i);
-    if (ok && old == h) return;
-  }
+  bool existing = false, ok = false;
+  const int i = slot(code, existing);
+  if (existing && m_rec.at(i).handle(&ok) == h && ok) return;
   m_rec.setHandle(i, h);
 }
 
