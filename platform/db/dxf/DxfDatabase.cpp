@@ -11,7 +11,6 @@
 #include "DxfDrawing.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace OdDxf {
 namespace mapping {
@@ -101,20 +100,7 @@ bool writeDrawing(OdDbDatabase* db, const QString& path, QString& error) {
   if (!mapping::writeImpl(db, bytes, error)) return false;
   DrawingData* d = mapping::drawingData(db);
   mapping::reindex(*d, db);
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) {
-    error = QStringLiteral("cannot write '%1': %2").arg(path, file.errorString());
-    return false;
-  }
-  if (file.write(bytes) != bytes.size()) {
-    error = QStringLiteral("cannot write '%1': %2").arg(path, file.errorString());
-    file.cancelWriting();
-    return false;
-  }
-  if (!file.commit()) {
-    error = QStringLiteral("cannot save '%1': %2").arg(path, file.errorString());
-    return false;
-  }
+  if (!saveBytes(path, bytes, error)) return false;
   // Saved: nothing counts as modified any more.
   for (const auto& owners : d->owners)
     for (OdDbStub* s : owners)

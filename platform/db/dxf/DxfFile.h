@@ -31,6 +31,10 @@
 
 namespace OdDxf {
 
+// Writes bytes through a temporary file renamed over path, so that a failed
+// save leaves an existing file whole. False with error set on failure.
+DB_API bool saveBytes(const QString& path, const QByteArray& bytes, QString& error);
+
 struct DB_API Section {
   QByteArray name;             // "HEADER", "ENTITIES", ...; empty for stray records
   Record head;

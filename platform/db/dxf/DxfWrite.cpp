@@ -109,13 +109,12 @@ QByteArray File::write(Form form, QStringList* problems) const {
   return out;
 }
 
-bool File::save(const QString& path, QString& error, Form form) const {
+bool saveBytes(const QString& path, const QByteArray& bytes, QString& error) {
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) {
     error = QStringLiteral("cannot write '%1': %2").arg(path, file.errorString());
     return false;
   }
-  const QByteArray bytes = write(form);
   if (file.write(bytes) != bytes.size()) {
     error = QStringLiteral("cannot write '%1': %2").arg(path, file.errorString());
     file.cancelWriting();
@@ -127,6 +126,8 @@ bool File::save(const QString& path, QString& error, Form form) const {
   }
   return true;
 }
+
+bool File::save(const QString& path, QString& error, Form form) const { return saveBytes(path, write(form), error); }
 
 QByteArray File::version() const {
   const Record* v = headerVariable("$ACADVER");
