@@ -52,8 +52,7 @@ void zqPrintRows(QTextStream& out, OdDbDatabase* db, const OdDbObjectId& id) {
   OdDbObjectPtr obj = id.openObject();
   out << (obj ? zqDisplayName(obj.get()) : QString("?")) << " [" << handleOf(id) << "]\n";
   for (const CZqPaletteRow& r : rowsOf(db, id))
-    out << "  " << r.category.qstring() << "/" << r.name.qstring() << ": " << r.text.qstring()
-        << (r.readOnly ? "  (read-only)" : "") << "\n";
+    out << "  " << r.ListLine() << "\n";
 }
 
 namespace {

@@ -54,11 +54,7 @@ OdDbObjectIdArray selectionFor(OdDbDatabase* db, const QString& answer) {
 }
 
 void listRows(OdEdCommandContext* ctx, const std::vector<CZqPaletteRow>& rows) {
-  for (const CZqPaletteRow& r : rows) {
-    QString line = QString("  %1/%2: %3").arg(r.category.qstring(), r.name.qstring(), r.text.qstring());
-    if (r.readOnly) line += "  " + QCoreApplication::translate("CZqCommandMinusProperties", "(read-only)");
-    ctx->putString(OdString(line));
-  }
+  for (const CZqPaletteRow& r : rows) ctx->putString(OdString("  " + r.ListLine()));
 }
 
 }  // namespace

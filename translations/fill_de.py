@@ -7,7 +7,7 @@ DE = {
     "CZqCirclePE": {"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"},
     "CZqPolylinePE": {"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"},
     "CZqCommandMinusProperties": {
-        "-PROPERTIES": "-EIGENSCHAFTEN", "(read-only)": "(schreibgeschützt)", "Select objects:": "Objekte wählen:",
+        "-PROPERTIES": "-EIGENSCHAFTEN", "Select objects:": "Objekte wählen:",
         "%1 found, %2 total": "%1 gefunden, %2 gesamt", "Nothing selected.": "Nichts gewählt.",
         "Enter property name or [List/eXit] <eXit>:": "Eigenschaftsname eingeben oder [List/eXit] <eXit>:",
         "%1 is read-only.": "%1 ist schreibgeschützt.", "Enter new value for %1 <%2>:": "Neuen Wert für %1 eingeben <%2>:",
@@ -50,7 +50,7 @@ DE = {
         "LineStyleGen": "Linientypgenerierung", "Color": "Farbe", "Layer": "Layer", "Linetype": "Linientyp",
         "Linetype scale": "Linientypfaktor", "Plot style": "Plotstil", "Lineweight": "Linienstärke", "Transparency": "Transparenz",
         "Hyperlink": "Hyperlink"},
-    "property_values": {"Yes": "Ja", "No": "Nein", "Enabled": "Aktiviert", "Disabled": "Deaktiviert", "*VARIES*": "*VARIIERT*"},
+    "property_values": {"(read-only)": "(schreibgeschützt)", "Yes": "Ja", "No": "Nein", "Enabled": "Aktiviert", "Disabled": "Deaktiviert", "*VARIES*": "*VARIIERT*"},
     "zqprops": {"Command:": "Befehl:", "Select objects:": "Objekte wählen:", 'Unknown command "%1".': 'Unbekannter Befehl "%1".',
                 "Save drawing as <%1>:": "Zeichnung speichern unter <%1>:", "Saved %1.": "%1 gespeichert."},
 }

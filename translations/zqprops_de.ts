@@ -15,10 +15,6 @@
         <translation>-EIGENSCHAFTEN</translation>
     </message>
     <message>
-        <source>(read-only)</source>
-        <translation>(schreibgeschützt)</translation>
-    </message>
-    <message>
         <source>Select objects:</source>
         <translation>Objekte wählen:</translation>
     </message>
@@ -560,6 +556,10 @@
     <message>
         <source>*VARIES*</source>
         <translation>*VARIIERT*</translation>
+    </message>
+    <message>
+        <source>(read-only)</source>
+        <translation>(schreibgeschützt)</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,12 @@ void CZqCommand::execute(OdEdCommandContext* pCmdCtx) {
   }
 }
 
+QString CZqPaletteRow::ListLine() const {
+  QString line = QString("%1/%2: %3").arg(category.qstring(), name.qstring(), text.qstring());
+  if (readOnly) line += "  " + QCoreApplication::translate("property_values", "(read-only)");
+  return line;
+}
+
 CZqPropertiesWindowService::CZqPropertiesWindowService(OdDbDatabase* db) : m_db(db) {}
 CZqPropertiesWindowService::~CZqPropertiesWindowService() = default;
 

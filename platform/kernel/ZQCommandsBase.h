@@ -38,6 +38,10 @@ struct ZQKERNEL_API CZqPaletteRow {
   CZqVariant value;             // the common value (empty when it varies)
   CZqVariant sample;            // the first object's value, even when it varies
   CZqString text;               // the value as the palette shows it
+
+  // The row as a listing prints it: "Category/Name: text", marked when
+  // read-only.
+  QString ListLine() const;
 };
 
 // The result of applying one edit to one object.
