@@ -9,14 +9,17 @@
 #include "DxfDatabase.h"
 #include "RxModule.h"
 #include "DbPlainClasses.h"
+#include "DbRelease.h"
 #include "ZqServices.h"
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -39,9 +42,14 @@ bool installTranslation(QCoreApplication& app, const QString& code, QTranslator&
   return false;
 }
 
+// The current vertex (or other current item) of each object, kept from one
+// --set to the next as the palette keeps it while the selection stays.
+using CurrentItems = QHash<quint64, CZqVariant>;
+
 // Applies NAME=VALUE to every target object that has a row of that name.
 // Returns the exit status it calls for.
-int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArray& targets, QTextStream& err) {
+int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArray& targets, CurrentItems& items,
+             QTextStream& err) {
   const int eq = assignment.indexOf('=');
   if (eq <= 0) {
     err << QCoreApplication::translate("zqprops", "zqprops: --set expects NAME=VALUE, got \"%1\"").arg(assignment) << "\n";
@@ -52,13 +60,14 @@ int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArra
   int status = kDone, found = 0;
   for (const OdDbObjectId& id : targets) {
     service.SetSelection({id});
+    service.SetCurrentIndex(items.value(id.getHandle().value()));
     const std::vector<CZqPaletteRow> rows = service.Rows();
     const CZqPaletteRow* row = service.FindRow(rows, name);
     if (!row) continue;
     ++found;
     const QString handle = id.getHandle().ascii().qstring();
     if (row->readOnly) {
-      err << QCoreApplication::translate("zqprops", "zqprops: %1: %2 is read-only").arg(handle, row->name.qstring()) << "\n";
+      err << QCoreApplication::translate("zqprops", "zqprops: %1: %2 is read-only.").arg(handle, row->name.qstring()) << "\n";
       status = kRefused;
       continue;
     }
@@ -71,19 +80,58 @@ int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArra
     }
     for (const CZqEditResult& r : service.SetValue(row->category, row->name, value)) {
       if (r.code != kZqSetRefused) continue;
-      err << QCoreApplication::translate("zqprops", "zqprops: %1: %2 refused (%3)%4")
-                 .arg(handle, row->name.qstring())
-                 .arg(r.code)
-                 .arg(r.message.isEmpty() ? QString() : ": " + r.message.qstring())
-          << "\n";
+      err << QCoreApplication::translate("zqprops", "zqprops: %1: %2: %3").arg(handle, row->name.qstring(), r.message.qstring()) << "\n";
       status = kRefused;
     }
+    items.insert(id.getHandle().value(), service.CurrentIndex());
   }
   if (!found) {
-    err << QCoreApplication::translate("zqprops", "zqprops: no object has a property named \"%1\"").arg(name) << "\n";
+    err << QCoreApplication::translate("zqprops", "zqprops: no object has a property named \"%1\".").arg(name) << "\n";
     return kUsage;
   }
   return status;
+}
+
+// --vertex N: vertex N becomes the current vertex of every target that has
+// vertices (through its current-item row, as the palette's Vertex row).
+int chooseVertex(OdDbDatabase* db, int number, const OdDbObjectIdArray& targets, CurrentItems& items, QTextStream& err) {
+  CZqPropertiesWindowService service(db);
+  int status = kDone, found = 0;
+  for (const OdDbObjectId& id : targets) {
+    service.SetSelection({id});
+    const std::vector<CZqPaletteRow> rows = service.Rows();
+    auto row = std::find_if(rows.begin(), rows.end(),
+                            [](const CZqPaletteRow& r) { return CZqPropertiesWindowService::IsCurrentItemRow(r.type); });
+    if (row == rows.end()) continue;
+    ++found;
+    const QString handle = id.getHandle().ascii().qstring();
+    CZqVariant value;
+    QString why;
+    if (!service.ParseValue(*row, QString::number(number), value, &why)) {
+      err << QCoreApplication::translate("zqprops", "zqprops: %1: %2: %3").arg(handle, row->name.qstring(), why) << "\n";
+      status = kUsage;
+      continue;
+    }
+    for (const CZqEditResult& r : service.SetValue(row->category, row->name, value))
+      if (r.code == kZqSetRefused) {
+        err << QCoreApplication::translate("zqprops", "zqprops: %1: %2: %3").arg(handle, row->name.qstring(), r.message.qstring()) << "\n";
+        status = kUsage;
+      }
+    items.insert(id.getHandle().value(), service.CurrentIndex());
+  }
+  if (!found) {
+    err << QCoreApplication::translate("zqprops", "zqprops: --vertex: none of the objects has vertices.") << "\n";
+    return kUsage;
+  }
+  return status;
+}
+
+// The releases --save-as offers: R2000 and every newer one.
+QString saveAsReleases() {
+  QStringList names;
+  for (const OdDb::ReleaseName& r : OdDb::kReleases)
+    if (r.number >= 1015) names << QString::fromLatin1(r.name);
+  return names.join(", ");
 }
 
 }  // namespace
@@ -108,7 +156,11 @@ int main(int argc, char** argv) {
   const QCommandLineOption output({"o", "output"}, "Save the drawing to OUT.", "OUT");
   const QCommandLineOption lang("lang", "Use the translation catalog of this language.", "CODE");
   const QCommandLineOption ucs("ucs", "List information in the current UCS.");
-  parser.addOptions({list, info, handle, json, set, script, output, lang, ucs});
+  const QCommandLineOption inPlace("in-place", "Save the drawing over the input file.");
+  const QCommandLineOption saveAs("save-as", "Save the drawing as this release (R2000 or newer, e.g. R2018).", "RELEASE");
+  const QCommandLineOption force("force", "Also edit objects on locked layers.");
+  const QCommandLineOption vertex("vertex", "Make vertex N the current vertex of the objects that have vertices.", "N");
+  parser.addOptions({list, info, handle, json, set, script, output, lang, ucs, inPlace, saveAs, force, vertex});
   if (!parser.parse(app.arguments())) {
     err << "zqprops: " << parser.errorText() << "\n";
     return kUsage;
@@ -124,7 +176,38 @@ int main(int argc, char** argv) {
   }
   QTranslator translator;
   if (parser.isSet(lang) && !installTranslation(app, parser.value(lang), translator))
-    err << QCoreApplication::translate("zqprops", "zqprops: no translation catalog for \"%1\"; using English").arg(parser.value(lang)) << "\n";
+    err << QCoreApplication::translate("zqprops", "zqprops: there is no translation catalog for the language \"%1\"; messages stay in English.")
+               .arg(parser.value(lang))
+        << "\n";
+
+  // What is edited must go somewhere: refused before anything is read.
+  const bool saving = parser.isSet(output) || parser.isSet(inPlace);
+  if (parser.isSet(output) && parser.isSet(inPlace)) {
+    err << QCoreApplication::translate("zqprops", "zqprops: give either -o FILE or --in-place, not both.") << "\n";
+    return kUsage;
+  }
+  if ((parser.isSet(set) || parser.isSet(saveAs) || parser.isSet(vertex)) && !saving) {
+    err << QCoreApplication::translate("zqprops", "zqprops: nothing saved: give -o FILE or --in-place") << "\n";
+    return kUsage;
+  }
+  int saveRelease = 0;
+  if (parser.isSet(saveAs)) {
+    saveRelease = OdDb::releaseFromName(parser.value(saveAs));
+    if (saveRelease < 1015) {
+      err << QCoreApplication::translate("zqprops", "zqprops: --save-as takes one of %1, not \"%2\".").arg(saveAsReleases(), parser.value(saveAs)) << "\n";
+      return kUsage;
+    }
+  }
+  int firstVertex = 0;
+  if (parser.isSet(vertex)) {
+    bool ok = false;
+    firstVertex = parser.value(vertex).trimmed().toInt(&ok);
+    if (!ok || firstVertex < 1) {
+      err << QCoreApplication::translate("zqprops", "zqprops: --vertex takes a vertex number from 1 on, not \"%1\".").arg(parser.value(vertex)) << "\n";
+      return kUsage;
+    }
+  }
+  CZqPropertiesWindowService::SetEditLockedLayers(parser.isSet(force));
 
   odDbInitialize();
   GetZqSystemServices()->SetEchoToStderr(false);
@@ -142,6 +225,10 @@ int main(int argc, char** argv) {
     return kUsage;
   }
   for (const QString& w : warnings) err << "zqprops: " << inputPath << ": " << QCoreApplication::translate("zqprops", "warning: %1").arg(w) << "\n";
+  if (saveRelease && !OdDxf::setSaveRelease(db.get(), saveRelease, error)) {
+    err << "zqprops: " << inputPath << ": " << error << "\n";
+    return kUsage;
+  }
 
   int status = kDone;
   int exitCode = kDone;
@@ -157,16 +244,21 @@ int main(int argc, char** argv) {
     }
     if (!parser.isSet(handle)) targets = modelSpace(db.get());
 
-    ZqSessionOptions options{inputPath, parser.value(output), parser.isSet(ucs)};
+    const QString outputPath = parser.isSet(inPlace) ? inputPath : parser.value(output);
+    ZqSessionOptions options{inputPath, outputPath, parser.isSet(ucs)};
     const int refusedBefore = CZqPropertiesWindowService::RefusedEdits();
+    CurrentItems items;
+    if (firstVertex) {
+      if (chooseVertex(db.get(), firstVertex, targets, items, err) != kDone) return kUsage;
+    }
     for (const QString& assignment : parser.values(set)) {
-      const int s = applySet(db.get(), assignment, targets, err);
+      const int s = applySet(db.get(), assignment, targets, items, err);
       if (s == kUsage) return kUsage;
       status = std::max(status, s);
     }
 
     const bool interactive = !parser.isSet(list) && !parser.isSet(info) && !parser.isSet(set) &&
-                             !parser.isSet(script) && !parser.isSet(output);
+                             !parser.isSet(script) && !saving;
     ZqSession session(db.get(), options, out, err);
     if (parser.isSet(script)) {
       QFile file(parser.value(script));
@@ -203,8 +295,8 @@ int main(int argc, char** argv) {
       out.flush();
     }
 
-    if (parser.isSet(output)) {
-      if (!zqSaveDrawing(db.get(), options, parser.value(output), error)) {
+    if (saving) {
+      if (!zqSaveDrawing(db.get(), options, outputPath, error)) {
         err << "zqprops: " << error << "\n";
         exitCode = kUsage;
       }

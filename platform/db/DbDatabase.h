@@ -126,9 +126,19 @@ class DB_API OdDbDatabase : public OdRxObject {
   OdDbUnitsSettings unitsSettings() const;
   OdDbUnitsFormatter formatter() const;
 
-  // The release the drawing was read from ("AC1015"), empty for new drawings.
+  // The release the drawing was read from ("AC1015"), or the one it is to be
+  // saved as once a newer one was chosen; empty for new drawings.
   OdString originalFileVersion() const { return m_fileVersion; }
   void setOriginalFileVersion(const OdString& v) { m_fileVersion = v; }
+
+  // Plot styles. PSTYLEMODE is true when objects plot by their colour
+  // (colour-dependent plot style tables; every drawing before R2000) and
+  // false when they name a plot style; plotStyleNames() are the named plot
+  // styles the drawing has.
+  bool getPSTYLEMODE() const { return m_pstylemode; }
+  void setPSTYLEMODE(bool colorDependent) { m_pstylemode = colorDependent; }
+  const OdArray<OdString>& plotStyleNames() const { return m_plotStyleNames; }
+  void setPlotStyleNames(const OdArray<OdString>& names) { m_plotStyleNames = names; }
 
   // What the drawing-file reader keeps with the database to write the
   // drawing back as it was read (the file's records and which object each
@@ -153,6 +163,8 @@ class DB_API OdDbDatabase : public OdRxObject {
   OdGePoint3d m_ucsOrg;
   OdGeVector3d m_ucsX{1, 0, 0}, m_ucsY{0, 1, 0};
   OdString m_fileVersion;
+  bool m_pstylemode = true;
+  OdArray<OdString> m_plotStyleNames;
   OdRxObjectPtr m_fileData;
 };
 using OdDbDatabasePtr = OdSmartPtr<OdDbDatabase>;

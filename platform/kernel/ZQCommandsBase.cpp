@@ -1,8 +1,12 @@
 #include "ZQCommandsBase.h"
 #include "ZqServices.h"
 #include "OdDbUnitsFormatter.h"
+#include "DbPlainClasses.h"
 #include <QCoreApplication>
+#include <QRegularExpression>
+#include <QStringList>
 #include <algorithm>
+#include <cmath>
 #include <QHash>
 #include <optional>
 #include <memory>
@@ -29,6 +33,7 @@ CZqPropertiesWindowService::CZqPropertiesWindowService(OdDbDatabase* db) : m_db(
 CZqPropertiesWindowService::~CZqPropertiesWindowService() = default;
 
 void CZqPropertiesWindowService::SetSelection(const OdDbObjectIdArray& ids) {
+  if (!(ids == m_selection)) m_index = CZqVariant();
   m_selection = ids;
   if (CZqVELOXQTGate* gate = GetZqVELOXQTGate()) gate->SetCurrentSelection(ids);
 }
@@ -85,7 +90,7 @@ std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBit
         e.row.type = d->GetType();
         e.row.visibility = vis;
         e.row.readOnly = d->IsReadOnly(o.object.get());
-        e.row.value = d->GetValue(o.object.get(), CZqVariant());
+        e.row.value = d->GetValue(o.object.get(), m_index);
         e.row.sample = e.row.value;
         e.seen = 1;
         const QString& cat = e.row.category.qstring();
@@ -99,7 +104,7 @@ std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBit
         Entry& e = entries[*it];
         e.seen = objectNo;
         e.row.readOnly = e.row.readOnly || d->IsReadOnly(o.object.get());
-        if (!e.row.varies && !(e.row.value == d->GetValue(o.object.get(), CZqVariant()))) e.row.varies = true;
+        if (!e.row.varies && !(e.row.value == d->GetValue(o.object.get(), m_index))) e.row.varies = true;
       }
     }
   }
@@ -146,31 +151,127 @@ const CZqPaletteRow* CZqPropertiesWindowService::FindRow(const std::vector<CZqPa
 
 namespace {
 int g_refusedEdits = 0;
+bool g_editLockedLayers = false;
+
+bool onLockedLayer(const OdDbObject* object) {
+  const OdDbEntity* e = odrxCast<OdDbEntity>(object);
+  if (!e) return false;
+  OdDbObjectPtr layer = e->layerId().openObject();
+  const OdDbLayerTableRecord* l = odrxCast<OdDbLayerTableRecord>(layer.get());
+  return l && l->isLocked();
 }
+
+// What a row takes, for a setter that refused a value of another kind.
+QString needsSentence(const CZqPropertyDescription& d, int kind) {
+  const QString name = d.GetName().qstring();
+  const QString id = d.GetType().GetTypeId().qstring();
+  switch (kind) {
+    case CZqVariant::kVtDouble:
+      return CZqPropertyType::isAngle(id) ? QCoreApplication::translate("errors", "%1 needs an angle.").arg(name)
+                                           : QCoreApplication::translate("errors", "%1 needs a number.").arg(name);
+    case CZqVariant::kVtString: return QCoreApplication::translate("errors", "%1 needs text.").arg(name);
+    case CZqVariant::kVtInt32: return QCoreApplication::translate("errors", "%1 needs a whole number.").arg(name);
+    case CZqVariant::kVtColor: return QCoreApplication::translate("errors", "%1 needs a colour.").arg(name);
+    case CZqVariant::kVtCollection:
+    case CZqVariant::kVtCollectionElement: return QCoreApplication::translate("errors", "%1 needs one of its choices.").arg(name);
+    case CZqVariant::kVtId:
+      if (id == QLatin1String(CZqPropertyType::kLayerGUID)) return QCoreApplication::translate("errors", "%1 needs one of the drawing's layers.").arg(name);
+      if (id == QLatin1String(CZqPropertyType::kLinetypeGUID)) return QCoreApplication::translate("errors", "%1 needs one of the drawing's linetypes.").arg(name);
+      if (id == QLatin1String(CZqPropertyType::kTextStyleGUID)) return QCoreApplication::translate("errors", "%1 needs one of the drawing's text styles.").arg(name);
+      if (id == QLatin1String(CZqPropertyType::kDimStyleGUID)) return QCoreApplication::translate("errors", "%1 needs one of the drawing's dimension styles.").arg(name);
+      return QCoreApplication::translate("errors", "%1 needs an object of the drawing.").arg(name);
+    default: return {};
+  }
+}
+
+// Whether value (a choice or its number) is one of the choices a row shows.
+bool isChoice(const CZqVariant& shown, const CZqVariant& value) {
+  if (shown.GetType() != CZqVariant::kVtCollection) return false;
+  const CZqVariant tag = value.GetType() == CZqVariant::kVtCollectionElement ? value.GetCollectionElement().GetTag() : value;
+  return tag.GetType() == CZqVariant::kVtInt32 && shown.GetCollection().FindTag(tag.GetInt32()) >= 0;
+}
+
+bool sameKind(int a, int b) {
+  auto norm = [](int k) { return k == CZqVariant::kVtCollectionElement ? int(CZqVariant::kVtCollection) : k; };
+  return norm(a) == norm(b);
+}
+
+// A sentence for a refusal the setter gave no message box for.
+QString refusalSentence(const CZqPropertyDescription& d, const OdDbObject* object, const CZqVariant& value,
+                        const CZqVariant& index) {
+  if (!object->isWriteEnabled()) return QCoreApplication::translate("errors", "The object could not be opened for editing.");
+  int kind = d.GetValue(object, index).GetType();
+  if (kind == CZqVariant::kVtEmpty) kind = d.GetType().GetType();
+  if (kind != CZqVariant::kVtEmpty && !sameKind(kind, value.GetType())) {
+    const QString s = needsSentence(d, kind);
+    if (!s.isEmpty()) return s;
+  }
+  if (d.GetValue(object, index).IsEmpty() && !index.IsEmpty())
+    return QCoreApplication::translate("errors", "The object has no item %1 for %2.").arg(index.GetInt32() + 1).arg(d.GetName().qstring());
+  return QCoreApplication::translate("errors", "%1 does not take this value.").arg(d.GetName().qstring());
+}
+}  // namespace
+
 int CZqPropertiesWindowService::RefusedEdits() { return g_refusedEdits; }
+void CZqPropertiesWindowService::SetEditLockedLayers(bool allow) { g_editLockedLayers = allow; }
+bool CZqPropertiesWindowService::EditLockedLayers() { return g_editLockedLayers; }
+
+bool CZqPropertiesWindowService::IsCurrentItemRow(const CZqCustomPropertyType& type) {
+  return type.GetTypeId().qstring() == QLatin1String(CZqPropertyType::kVertexGUID);
+}
 
 std::vector<CZqEditResult> CZqPropertiesWindowService::SetValue(const CZqString& category, const CZqString& name,
-                                                                const CZqVariant& value, const CZqVariant& index) {
+                                                                const CZqVariant& value, const CZqVariant& at) {
   std::vector<CZqEditResult> results;
   CZqSystemServices* services = GetZqSystemServices();
+  const CZqVariant index = at.IsEmpty() ? m_index : at;
+  int chosenItem = -1;  // the item a current-item row chose on every object
+  bool allChose = !m_selection.isEmpty();
   for (const OdDbObjectId& id : m_selection) {
     CZqEditResult result;
     result.id = id;
     result.code = kZqSetRefused;
     ObjectRows o = rowsOf(id, OdDb::kForWrite);
     const CZqPropertyDescription* d = o.container ? o.container->GetByName(name, category) : nullptr;
-    if (!d) {
+    const bool choosesItem = d && IsCurrentItemRow(d->GetType());
+    if (!o.object) {
+      result.message = QCoreApplication::translate("errors", "The object could not be opened for editing.");
+    } else if (!d) {
       result.message = QCoreApplication::translate("errors", "The object has no such property.");
     } else if (d->IsReadOnly(o.object.get())) {
-      result.message = QCoreApplication::translate("errors", "The property is read-only.");
+      result.message = QCoreApplication::translate("errors", "%1 is read-only.").arg(d->GetName().qstring());
+    } else if (!choosesItem && !g_editLockedLayers && onLockedLayer(o.object.get())) {
+      // Choosing the current item changes nothing; any other edit changes an
+      // object on a locked layer (moving it to another layer too).
+      result.message = QCoreApplication::translate("errors", "The object is on a locked layer.");
+    } else if (choosesItem && !isChoice(d->GetValue(o.object.get(), index), value)) {
+      result.message = QCoreApplication::translate("errors", "%1 has no such choice.").arg(d->GetName().qstring());
+    } else if (value.GetType() == CZqVariant::kVtDouble && !std::isfinite(value.GetDouble())) {
+      result.message = QCoreApplication::translate("errors", "%1 needs a finite number.").arg(d->GetName().qstring());
     } else {
       const size_t before = services->Messages().size();
       result.code = d->SetValue(o.object.get(), value, index);
-      if (services->Messages().size() > before) result.message = services->Messages().back().text;
+      if (result.code == kZqSetRefused) {
+        if (services->Messages().size() > before) result.message = services->Messages().back().text;
+        if (result.message.isEmpty()) result.message = refusalSentence(*d, o.object.get(), value, index);
+      }
+    }
+    if (choosesItem && result.code != kZqSetRefused) {
+      int tag = -1;
+      if (value.GetType() == CZqVariant::kVtCollectionElement && value.GetCollectionElement().GetTag().GetType() == CZqVariant::kVtInt32)
+        tag = value.GetCollectionElement().GetTag().GetInt32();
+      else if (value.GetType() == CZqVariant::kVtInt32)
+        tag = value.GetInt32();
+      if (tag >= 1 && (chosenItem < 0 || chosenItem == tag - 1)) chosenItem = tag - 1;
+      else allChose = false;
+    } else {
+      allChose = false;
     }
     if (result.code == kZqSetRefused) ++g_refusedEdits;
     results.push_back(result);
   }
+  // Choices are numbered from 1; the index is the item's zero-based number.
+  if (allChose && chosenItem >= 0) m_index = CZqVariant(int32_t(chosenItem));
   return results;
 }
 
@@ -226,11 +327,36 @@ bool parseLineweight(const QString& t, int32_t& out) {
   if (mm) n.chop(2);
   bool ok = false;
   const double v = n.trimmed().toDouble(&ok);
-  if (!ok) return false;
+  if (!ok || !std::isfinite(v)) return false;
   // "0.25" and "0.25 mm" are millimetres, "25" hundredths of a millimetre.
-  const bool millimetres = mm || n.contains('.');
-  out = int32_t(std::lround(millimetres ? v * 100 : v));
+  const double hundredths = mm || n.contains('.') ? v * 100 : v;
+  // Range first: a number past every lineweight must not wrap into one.
+  if (std::fabs(hundredths) > 1000) return false;
+  const double rounded = std::round(hundredths);
+  if (std::fabs(hundredths - rounded) > 1e-6) return false;
+  out = int32_t(rounded);
   return OdDb::isValidLineWeight(out);
+}
+
+QString choiceWords(const CZqVariantCollection& choices) {
+  QStringList words;
+  const int shown = std::min(choices.GetCount(), 12);
+  for (int i = 0; i < shown; ++i) {
+    const CZqVariant& v = choices.GetAt(i).GetValue();
+    words << (v.GetType() == CZqVariant::kVtString ? v.GetString().qstring() : QString::number(v.GetInt32()));
+  }
+  if (choices.GetCount() > shown) words << QString("... %1").arg(choices.GetAt(choices.GetCount() - 1).GetValue().GetType() == CZqVariant::kVtString
+                                                                       ? choices.GetAt(choices.GetCount() - 1).GetValue().GetString().qstring()
+                                                                       : QString::number(choices.GetAt(choices.GetCount() - 1).GetValue().GetInt32()));
+  return words.join(", ");
+}
+
+QString noRecordSentence(const QString& typeId, const QString& name) {
+  if (typeId == QLatin1String(CZqPropertyType::kLayerGUID)) return QCoreApplication::translate("errors", "The drawing has no layer named \"%1\".").arg(name);
+  if (typeId == QLatin1String(CZqPropertyType::kLinetypeGUID)) return QCoreApplication::translate("errors", "The drawing has no linetype named \"%1\".").arg(name);
+  if (typeId == QLatin1String(CZqPropertyType::kTextStyleGUID)) return QCoreApplication::translate("errors", "The drawing has no text style named \"%1\".").arg(name);
+  if (typeId == QLatin1String(CZqPropertyType::kDimStyleGUID)) return QCoreApplication::translate("errors", "The drawing has no dimension style named \"%1\".").arg(name);
+  return QCoreApplication::translate("errors", "The drawing has nothing named \"%1\" for this property.").arg(name);
 }
 }  // namespace
 
@@ -238,6 +364,7 @@ bool CZqPropertiesWindowService::ParseValue(const CZqPaletteRow& row, const QStr
                                             QString* why) const {
   const QString text = typed.trimmed();
   const QString typeId = row.type.GetTypeId().qstring();
+  const QString name = row.name.qstring();
   auto fail = [&](const QString& reason) {
     if (why) *why = reason;
     return false;
@@ -248,11 +375,15 @@ bool CZqPropertiesWindowService::ParseValue(const CZqPaletteRow& row, const QStr
   if (kind == CZqVariant::kVtEmpty) kind = row.type.GetType();
   switch (kind) {
     case CZqVariant::kVtDouble: {
-      if (!m_db) return fail(QCoreApplication::translate("errors", "No drawing."));
+      if (!m_db) return fail(QCoreApplication::translate("errors", "There is no drawing to edit."));
       double v = 0;
       const OdDbUnitsFormatter f = m_db->formatter();
-      const bool ok = CZqPropertyType::isAngle(typeId) ? f.parseAngle(OdString(text), v) : f.parseDistance(OdString(text), v);
-      if (!ok) return fail(QCoreApplication::translate("errors", "Invalid input.") + " " + text);
+      if (CZqPropertyType::isAngle(typeId)) {
+        if (!f.parseAngle(OdString(text), v))
+          return fail(QCoreApplication::translate("errors", "\"%1\" is not an angle: %2 needs a finite angle such as 45 or 45d30'.").arg(text, name));
+      } else if (!f.parseDistance(OdString(text), v)) {
+        return fail(QCoreApplication::translate("errors", "\"%1\" is not a number: %2 needs a finite number such as 12.5.").arg(text, name));
+      }
       value = CZqVariant(v, true);
       return true;
     }
@@ -262,15 +393,26 @@ bool CZqPropertiesWindowService::ParseValue(const CZqPaletteRow& row, const QStr
     case CZqVariant::kVtInt32: {
       int32_t v = 0;
       bool ok = false;
-      if (typeId == QLatin1String(CZqPropertyType::kLineweightGUID)) ok = parseLineweight(text, v);
-      else v = text.toInt(&ok);
-      if (!ok) return fail(QCoreApplication::translate("errors", "Invalid input.") + " " + text);
+      if (typeId == QLatin1String(CZqPropertyType::kLineweightGUID)) {
+        if (!parseLineweight(text, v))
+          return fail(QCoreApplication::translate("errors", "\"%1\" is not a lineweight: %2 takes ByLayer, ByBlock, Default or a standard lineweight from 0.00 mm to 2.11 mm (0.25 or 25 for 0.25 mm).").arg(text, name));
+      } else {
+        v = text.toInt(&ok);
+        if (!ok) {
+          // Digits only: a whole number, but one past what 32 bits hold.
+          static const QRegularExpression digits(QStringLiteral("^[+-]?[0-9]+$"));
+          if (digits.match(text).hasMatch())
+            return fail(QCoreApplication::translate("errors", "%1 is out of range: %2 needs a whole number from -2147483648 to 2147483647.").arg(text, name));
+          return fail(QCoreApplication::translate("errors", "\"%1\" is not a whole number: %2 needs one.").arg(text, name));
+        }
+      }
       value = CZqVariant(v);
       return true;
     }
     case CZqVariant::kVtColor: {
       OdCmColor c;
-      if (!OdCmColor::parse(OdString(text), c)) return fail(QCoreApplication::translate("errors", "Invalid input.") + " " + text);
+      if (!OdCmColor::parse(OdString(text), c))
+        return fail(QCoreApplication::translate("errors", "\"%1\" is not a colour: %2 takes an index from 0 to 256, a colour name (red, yellow, green, cyan, blue, magenta, white), ByLayer, ByBlock or red,green,blue from 0 to 255.").arg(text, name));
       value = CZqVariant(c);
       return true;
     }
@@ -285,21 +427,21 @@ bool CZqPropertiesWindowService::ParseValue(const CZqPaletteRow& row, const QStr
       bool ok = false;
       const int n = text.toInt(&ok);
       const int at = ok ? choices.FindTag(n) : -1;
-      if (at < 0) return fail(QCoreApplication::translate("errors", "Invalid input.") + " " + text);
+      if (at < 0) return fail(QCoreApplication::translate("errors", "\"%1\" is not one of the choices of %2: %3.").arg(text, name, choiceWords(choices)));
       value = CZqVariant(choices.GetAt(at));
       return true;
     }
     case CZqVariant::kVtId: {
-      if (!m_db) return fail(QCoreApplication::translate("errors", "No drawing."));
+      if (!m_db) return fail(QCoreApplication::translate("errors", "There is no drawing to edit."));
       OdDbObjectPtr table = tableForIdRow(m_db, typeId).openObject();
       auto t = OdDbSymbolTable::cast(table.get());
       const OdDbObjectId id = t ? t->getAt(OdString(text)) : OdDbObjectId();
-      if (id.isNull()) return fail(QCoreApplication::translate("errors", "No such name:") + " " + text);
+      if (id.isNull()) return fail(noRecordSentence(typeId, text));
       value = CZqVariant(id);
       return true;
     }
     default:
-      return fail(QCoreApplication::translate("errors", "The property cannot be set from text."));
+      return fail(QCoreApplication::translate("errors", "%1 cannot be set from text.").arg(name));
   }
 }
 

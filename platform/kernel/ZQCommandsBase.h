@@ -48,7 +48,7 @@ struct ZQKERNEL_API CZqPaletteRow {
 struct ZQKERNEL_API CZqEditResult {
   OdDbObjectId id;
   int code = 0;                 // the setter's answer (5100 applied, -5001 refused)
-  CZqString message;            // the message box shown while setting, if any
+  CZqString message;            // why it was refused: a sentence (empty when applied)
 };
 
 class ZQKERNEL_API CZqPropertiesWindowService {
@@ -56,9 +56,25 @@ class ZQKERNEL_API CZqPropertiesWindowService {
   explicit CZqPropertiesWindowService(OdDbDatabase* db);
   ~CZqPropertiesWindowService();
 
-  // Sets the selection and publishes it through the selection gate.
+  // Sets the selection and publishes it through the selection gate. A
+  // selection other than the current one starts at the first item again.
   void SetSelection(const OdDbObjectIdArray& ids);
   const OdDbObjectIdArray& Selection() const { return m_selection; }
+
+  // The current item of rows that show one of several (the vertex of a
+  // polyline's vertex rows): the index variant given to every getter and
+  // setter; empty stands for the first item. Setting a current-item row (the
+  // Vertex row) to a choice makes that item current; nothing in the drawing
+  // changes then.
+  const CZqVariant& CurrentIndex() const { return m_index; }
+  void SetCurrentIndex(const CZqVariant& index) { m_index = index; }
+  // Whether a row chooses the current item rather than holding a value.
+  static bool IsCurrentItemRow(const CZqCustomPropertyType& type);
+
+  // Edits of objects on a locked layer are refused unless allowed here (for
+  // every service of the process; a program's "force" option).
+  static void SetEditLockedLayers(bool allow);
+  static bool EditLockedLayers();
 
   // The rows shown for the selection: rows of every object with the
   // palette bit; with more than one object, rows marked single-only are
@@ -68,9 +84,12 @@ class ZQKERNEL_API CZqPropertiesWindowService {
   // picks one of two rows of the same name. Null with a reason when none
   // or more than one row matches.
   const CZqPaletteRow* FindRow(const std::vector<CZqPaletteRow>& rows, const QString& name, QString* why = nullptr) const;
-  // Applies value to the row on every selected object: each is opened for
-  // write and the row's setter called. A read-only row is not set (result
-  // -5001 with the message "read-only").
+  // Applies value to the row on every selected object, at `index` (empty:
+  // the current item, see CurrentIndex): each is opened for write and the row's setter
+  // called. Refused, with a sentence in the result's message, are: a
+  // read-only row, an object on a locked layer (unless allowed), a number
+  // that is not finite, and whatever the setter refuses; where a setter
+  // refuses without a message box, the sentence says what the row needs.
   std::vector<CZqEditResult> SetValue(const CZqString& category, const CZqString& name, const CZqVariant& value,
                                       const CZqVariant& index = CZqVariant());
   // Turns what a user typed into the value a row's setter takes, decided by
@@ -90,6 +109,7 @@ class ZQKERNEL_API CZqPropertiesWindowService {
  private:
   OdDbDatabase* m_db;
   OdDbObjectIdArray m_selection;
+  CZqVariant m_index;
 };
 
 // Length and area of curves, as the selection totals use them.

@@ -1,7 +1,10 @@
 #include "ZqPropertiesKernel.h"
 #include "DbDatabase.h"
 #include "ZqServices.h"
+#include "DbRelease.h"
 #include <QCoreApplication>
+#include <QStringList>
+#include <cmath>
 
 // CZqPropertyBase and CZqCustomPropertyPE are registered together: the
 // first is the protocol, the second the base every provider derives from.
@@ -105,10 +108,11 @@ bool CZqCustomPropertyPE::IsReadOnlyTrue(const OdDbObject*, const CZqPropertyDes
 namespace {
 
 
-int refuse(const char* message) {
-  GetZqSystemServices()->MessageBox(QCoreApplication::translate("errors", message), QCoreApplication::translate("errors", "Error"));
+int refuse(const QString& message) {
+  GetZqSystemServices()->MessageBox(message, QCoreApplication::translate("errors", "Error"));
   return kZqSetRefused;
 }
+int refuse(const char* message) { return refuse(QCoreApplication::translate("errors", message)); }
 
 // Opens the entity for the callbacks: getters need read access, setters write access.
 const OdDbEntity* readable(const OdDbObject* o) {
@@ -127,6 +131,24 @@ bool isRecordOf(const OdDbEntity* e, const OdDbObjectId& id, OdDbObjectId (OdDbD
   return rec && rec->ownerId() == (e->database()->*table)();
 }
 
+// The oldest releases whose drawing files hold a general value that differs
+// from what every file implies (a true colour, a lineweight, ...).
+constexpr int kLtScaleRelease = 1012;     // R13: group 48
+constexpr int kLineweightRelease = 1015;  // R2000: group 370
+constexpr int kPlotStyleRelease = 1015;   // R2000: group 390 and the plot style names
+constexpr int kTrueColorRelease = 1018;   // R2004: group 420
+constexpr int kTransparencyRelease = 1018;  // R2004: group 440
+
+// True when the release the entity's drawing is saved in holds a value that
+// needs `needed`; otherwise refuses with `message` ("... needs a drawing
+// saved as %1 or later; this drawing is %2.").
+bool releaseHolds(const OdDbEntity* e, int needed, const char* message) {
+  const int release = OdDb::databaseRelease(e->database());
+  if (release == 0 || release >= needed) return true;
+  refuse(QCoreApplication::translate("errors", message).arg(OdDb::releaseName(needed), OdDb::releaseName(release)));
+  return false;
+}
+
 CZqVariant getColor(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
   const OdDbEntity* e = readable(o);
   return e ? CZqVariant(e->color()) : CZqVariant();
@@ -134,6 +156,9 @@ CZqVariant getColor(const OdDbObject* o, const CZqPropertyDescription&, const CZ
 int setColor(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtColor) return kZqSetRefused;
+  if (v.GetColor().isByColor() &&
+      !releaseHolds(e, kTrueColorRelease, QT_TRANSLATE_NOOP("errors", "A true colour needs a drawing saved as %1 or later; this drawing is %2.")))
+    return kZqSetRefused;
   e->setColor(v.GetColor());
   return kZqSetApplied;
 }
@@ -145,7 +170,8 @@ CZqVariant getLayer(const OdDbObject* o, const CZqPropertyDescription&, const CZ
 int setLayer(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtId) return kZqSetRefused;
-  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLayerTableId)) return refuse(QT_TRANSLATE_NOOP("errors", "Invalid input."));
+  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLayerTableId))
+    return refuse(QT_TRANSLATE_NOOP("errors", "The layer must be one of the drawing's layers."));
   e->setLayer(v.GetId());
   return kZqSetApplied;
 }
@@ -157,7 +183,8 @@ CZqVariant getLinetype(const OdDbObject* o, const CZqPropertyDescription&, const
 int setLinetype(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtId) return kZqSetRefused;
-  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLinetypeTableId)) return refuse(QT_TRANSLATE_NOOP("errors", "Invalid input."));
+  if (!isRecordOf(e, v.GetId(), &OdDbDatabase::getLinetypeTableId))
+    return refuse(QT_TRANSLATE_NOOP("errors", "The linetype must be one of the drawing's linetypes."));
   e->setLinetype(v.GetId());
   return kZqSetApplied;
 }
@@ -169,24 +196,66 @@ CZqVariant getLtScale(const OdDbObject* o, const CZqPropertyDescription&, const 
 int setLtScale(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtDouble) return kZqSetRefused;
-  if (!(v.GetDouble() > 1e-10)) return refuse(QT_TRANSLATE_NOOP("errors", "Value must be positive"));
-  e->setLinetypeScale(v.GetDouble());
+  const double scale = v.GetDouble();
+  if (!std::isfinite(scale)) return refuse(QT_TRANSLATE_NOOP("errors", "Linetype scale must be a finite number greater than 0."));
+  if (!(scale > 1e-10)) return refuse(QT_TRANSLATE_NOOP("errors", "Value must be positive"));
+  if (scale != 1.0 &&
+      !releaseHolds(e, kLtScaleRelease, QT_TRANSLATE_NOOP("errors", "Linetype scale needs a drawing saved as %1 or later; this drawing is %2.")))
+    return kZqSetRefused;
+  e->setLinetypeScale(scale);
   return kZqSetApplied;
 }
+
+// Plot styles. A drawing that plots by colour shows ByColor for every object;
+// in one with named plot styles an object without a plot style of its own
+// plots as its layer says (ByLayer).
+bool namedPlotStyles(const OdDbEntity* e) { return e->database() && !e->database()->getPSTYLEMODE(); }
 
 CZqVariant getPlotStyle(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
   const OdDbEntity* e = readable(o);
   if (!e) return {};
   const OdString s = e->plotStyleName();
-  return CZqVariant(CZqString(s.isEmpty() ? QString("ByColor") : s.qstring()));
+  if (!s.isEmpty()) return CZqVariant(CZqString(s.qstring()));
+  return CZqVariant(CZqString(namedPlotStyles(e) ? QString("ByLayer") : QString("ByColor")));
 }
+
+// The drawing's plot style names as a list for a message.
+QString plotStyleList(const OdDbDatabase* db) {
+  QStringList names;
+  for (const OdString& n : db->plotStyleNames()) names << n.qstring();
+  return names.join(", ");
+}
+
 int setPlotStyle(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtString) return kZqSetRefused;
   const QString s = v.GetString().qstring().trimmed();
-  // Colour-dependent plot styles: the entity plots by its colour.
-  e->setPlotStyleName(s.compare("ByColor", Qt::CaseInsensitive) == 0 ? OdString() : OdString(s));
-  return kZqSetApplied;
+  const OdDbDatabase* db = e->database();
+  const bool isByColor = s.compare("ByColor", Qt::CaseInsensitive) == 0;
+  if (!namedPlotStyles(e)) {
+    // Colour-dependent plot styles: the entity plots by its colour.
+    if (!isByColor)
+      return refuse(QT_TRANSLATE_NOOP("errors", "This drawing plots by colour: its objects take only the plot style ByColor."));
+    e->setPlotStyleName(OdString());
+    return kZqSetApplied;
+  }
+  const QString names = plotStyleList(db);
+  if (isByColor)
+    return refuse(QCoreApplication::translate("errors", "This drawing uses named plot styles: choose ByLayer or one of %1.").arg(names));
+  if (s.compare("ByLayer", Qt::CaseInsensitive) == 0) {
+    e->setPlotStyleName(OdString());
+    return kZqSetApplied;
+  }
+  if (s.compare("ByBlock", Qt::CaseInsensitive) == 0)
+    return refuse(QCoreApplication::translate("errors", "The plot style ByBlock cannot be saved in the drawing: choose ByLayer or one of %1.").arg(names));
+  if (!releaseHolds(e, kPlotStyleRelease, QT_TRANSLATE_NOOP("errors", "Plot styles need a drawing saved as %1 or later; this drawing is %2.")))
+    return kZqSetRefused;
+  for (const OdString& n : db->plotStyleNames())
+    if (n.qstring().compare(s, Qt::CaseInsensitive) == 0) {
+      e->setPlotStyleName(n);
+      return kZqSetApplied;
+    }
+  return refuse(QCoreApplication::translate("errors", "The drawing has no plot style named \"%1\": choose ByLayer or one of %2.").arg(s, names));
 }
 
 CZqVariant getLineweight(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant&) {
@@ -196,7 +265,11 @@ CZqVariant getLineweight(const OdDbObject* o, const CZqPropertyDescription&, con
 int setLineweight(const OdDbObject* o, const CZqPropertyDescription&, const CZqVariant& v, const CZqVariant&) {
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtInt32) return kZqSetRefused;
-  if (!OdDb::isValidLineWeight(v.GetInt32())) return refuse(QT_TRANSLATE_NOOP("errors", "Invalid input."));
+  if (!OdDb::isValidLineWeight(v.GetInt32()))
+    return refuse(QT_TRANSLATE_NOOP("errors", "Lineweight must be ByLayer, ByBlock, Default or a standard lineweight from 0.00 mm to 2.11 mm."));
+  if (v.GetInt32() != OdDb::kLnWtByLayer &&
+      !releaseHolds(e, kLineweightRelease, QT_TRANSLATE_NOOP("errors", "Lineweight needs a drawing saved as %1 or later; this drawing is %2.")))
+    return kZqSetRefused;
   e->setLineWeight(OdDb::LineWeight(v.GetInt32()));
   return kZqSetApplied;
 }
@@ -209,14 +282,20 @@ int setTransparency(const OdDbObject* o, const CZqPropertyDescription&, const CZ
   OdDbEntity* e = writable(o);
   if (!e || v.GetType() != CZqVariant::kVtString) return kZqSetRefused;
   const QString s = v.GetString().qstring().trimmed();
-  if (s.compare("ByLayer", Qt::CaseInsensitive) == 0) e->setTransparency(OdCmTransparency(OdCmTransparency::kByLayer));
-  else if (s.compare("ByBlock", Qt::CaseInsensitive) == 0) e->setTransparency(OdCmTransparency(OdCmTransparency::kByBlock));
+  OdCmTransparency t;
+  if (s.compare("ByLayer", Qt::CaseInsensitive) == 0) t = OdCmTransparency(OdCmTransparency::kByLayer);
+  else if (s.compare("ByBlock", Qt::CaseInsensitive) == 0) t = OdCmTransparency(OdCmTransparency::kByBlock);
   else {
     bool ok = false;
     const int percent = s.toInt(&ok);
-    if (!ok || percent < 0 || percent > 90) return refuse(QT_TRANSLATE_NOOP("errors", "Invalid input."));
-    e->setTransparency(OdCmTransparency::fromPercent(percent));
+    if (!ok || percent < 0 || percent > 90)
+      return refuse(QT_TRANSLATE_NOOP("errors", "Transparency must be ByLayer, ByBlock or a whole percentage from 0 to 90."));
+    t = OdCmTransparency::fromPercent(percent);
   }
+  if (!t.isByLayer() &&
+      !releaseHolds(e, kTransparencyRelease, QT_TRANSLATE_NOOP("errors", "Transparency needs a drawing saved as %1 or later; this drawing is %2.")))
+    return kZqSetRefused;
+  e->setTransparency(t);
   return kZqSetApplied;
 }
 

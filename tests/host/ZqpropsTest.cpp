@@ -128,17 +128,19 @@ TEST(ZqpropsTest, SetSavesOnlyTheEditAndKeepsTheInput) {
 
 TEST(ZqpropsTest, ExitCodesAndErrorLines) {
   QTemporaryDir dir;
+  const QString out = dir.filePath("out.dxf");
   struct Case {
     const char* label;
     QStringList args;
     int code;
     const char* errorPart;
   } cases[] = {
-      {"refused value", {kDemo, "--set", "Linetype scale=-1"}, 1, "Value must be positive"},
-      {"unparsable value", {kDemo, "--set", "Start X=abc"}, 1, "Invalid input."},
-      {"read-only row", {kDemo, "--set", "Length=3"}, 1, "read-only"},
-      {"unknown row", {kDemo, "--set", "Nothing=1"}, 2, "no object has a property named"},
-      {"malformed set", {kDemo, "--set", "Thickness"}, 2, "NAME=VALUE"},
+      {"refused value", {kDemo, "--set", "Linetype scale=-1", "-o", out}, 1, "Value must be positive"},
+      {"unparsable value", {kDemo, "--set", "Start X=abc", "-o", out}, 1, "\"abc\" is not a number"},
+      {"read-only row", {kDemo, "--set", "Length=3", "-o", out}, 1, "read-only"},
+      {"unknown row", {kDemo, "--set", "Nothing=1", "-o", out}, 2, "no object has a property named"},
+      {"malformed set", {kDemo, "--set", "Thickness", "-o", out}, 2, "NAME=VALUE"},
+      {"set without a target", {kDemo, "--set", "Start X=1"}, 2, "nothing saved: give -o FILE or --in-place"},
       {"unknown handle", {kDemo, "--handle", "FFFFF", "--list"}, 2, "no object with handle"},
       {"no drawing", {"--list"}, 2, "expected one drawing"},
       {"missing file", {dir.filePath("none.dxf"), "--list"}, 2, "none.dxf"},

@@ -46,4 +46,13 @@ DB_API OdDbDatabasePtr readDrawing(const QByteArray& bytes, QString& error, QStr
 DB_API bool writeDrawing(OdDbDatabase* db, const QString& path, QString& error);
 DB_API QByteArray writeDrawing(OdDbDatabase* db, QString* error = nullptr);
 
+// Makes a drawing read from a file be written as another release from now
+// on (`release` as in OdDb::kReleases: 1032 for R2018): $ACADVER changes, and
+// text is re-encoded where the new release keeps it in another code page
+// (UTF-8 from R2007 on). A drawing of R2000 or later can move to any newer
+// release, whose files have the same structure; older files lack what R2000
+// needs, and an older release would lose values, so both are refused. False
+// with a sentence in `error` when refused; nothing changes then.
+DB_API bool setSaveRelease(OdDbDatabase* db, int release, QString& error);
+
 }  // namespace OdDxf

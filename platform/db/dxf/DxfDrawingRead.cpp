@@ -160,6 +160,14 @@ void Reader::scanHandles() {
 // Plot style names: the ACAD_PLOTSTYLENAME dictionary maps each name to the
 // handle of a placeholder object; entities refer to that handle (390).
 void Reader::readPlotStyleNames() {
+  // $PSTYLEMODE 0: the drawing's objects name plot styles; 1 (or absent):
+  // they plot by colour.
+  if (const Record* mode = m_d.file.headerVariable("$PSTYLEMODE")) {
+    const int i = mode->find(290, 1);
+    bool ok = false;
+    const qint64 v = i >= 0 ? mode->at(i).integer(&ok) : 1;
+    m_db->setPSTYLEMODE(!ok || v != 0);
+  }
   const Section* objects = m_d.file.section("OBJECTS");
   if (!objects || objects->records.isEmpty()) return;
   auto entries = [](const Record& dict, auto&& each) {
@@ -174,12 +182,15 @@ void Reader::readPlotStyleNames() {
     if (name == QLatin1String("ACAD_PLOTSTYLENAME")) plotStyles = h;
   });
   if (!plotStyles) return;
+  OdArray<OdString> names;
   for (const Record& r : objects->records)
     if (r.handle() == plotStyles && r.isType("ACDBDICTIONARYWDFLT") | r.isType("DICTIONARY")) {
       entries(r, [&](const QString& name, quint64 h) {
         m_ctx.plotStyleNames.insert(h, name);
         m_ctx.plotStyleHandles.insert(name.toCaseFolded(), h);
+        names.append(OdString(name));
       });
+      m_db->setPlotStyleNames(names);
       break;
     }
 }

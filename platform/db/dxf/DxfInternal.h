@@ -96,6 +96,7 @@ struct Access {
   static QByteArray& data(File& f) { return f.m_data; }
   static QByteArray& preamble(File& f) { return f.m_preamble; }
   static Format& format(File& f) { return f.m_format; }
+  static Format& format(Record& r) { return r.m_format; }
   static QByteArray& trailer(File& f) { return f.m_trailer; }
   static const QByteArray& preamble(const File& f) { return f.m_preamble; }
 };
