@@ -127,6 +127,41 @@ TEST_F(ProviderRulesTest, TotalLengthOnlyForASelectionOfTwoOrMore) {
   SetZqVELOXQTGate(gate);
 }
 
+// A total adds up the selected objects of the classes it is for, each
+// object once: a circle adds nothing to a total length, a line nothing to a
+// total area, and an object the selection names twice counts once.
+TEST_F(ProviderRulesTest, TotalsCountEachObjectOfTheirClassesOnce) {
+  const OdDbObjectId a = addLine({0, 0, 0}, {3, 4, 0});
+  const OdDbObjectId b = addLine({0, 0, 0}, {0, 0, 2});
+  OdDbCirclePtr circle = OdDbCircle::createObject();
+  circle->setRadius(1);
+  const OdDbObjectId c = addToModelSpace(circle.get());
+  circle.release();
+  OdDbPolylinePtr square = OdDbPolyline::createObject();
+  const OdGePoint2d corners[] = {{0, 0}, {2, 0}, {2, 2}, {0, 2}};
+  for (unsigned i = 0; i < 4; ++i) square->addVertexAt(i, corners[i]);
+  square->setClosed(true);
+  const OdDbObjectId p = addToModelSpace(square.get());
+  square.release();
+  CZqPropertiesWindowService service(db.get());
+  const struct {
+    OdDbObjectIdArray selection;
+    OdDbObjectId shownOn;
+    const char* total;
+    double expected;
+  } cases[] = {
+      {{a, c, b}, a, "Total Length", 5 + 2},
+      {{a, a, b}, a, "Total Length", 5 + 2},
+      {{a, p, a}, p, "Total Length", 5 + 8},
+      {{c, a, p}, c, "Total Area", OdaPI + 4},
+      {{c, c, a}, c, "Total Area", OdaPI},
+  };
+  for (const auto& k : cases) {
+    service.SetSelection(k.selection);
+    EXPECT_NEAR(get(k.shownOn, "Geometry", k.total).GetDouble(), k.expected, 1e-12) << k.total << " " << k.expected;
+  }
+}
+
 // Every row of every provider the module attached: unique names within a
 // provider, known editor types, well-formed icons, a getter on every row
 // and no setter on rows that are always read-only.
