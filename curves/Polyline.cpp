@@ -384,9 +384,9 @@ void CZqPolylineInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoCont
       uniform = s == first && e == first;
     }
     if (uniform) context->PrintWidth(QCoreApplication::translate("property_types", "Global width"), pl->getConstantWidth());
-    // The listing may be stopped before any vertex and after each one.
-    if (!context->CheckCounter()) return;
+    // The listing may be stopped before each vertex: one question per vertex.
     for (unsigned i = 0; i < n; ++i) {
+      if (!context->CheckCounter()) return;
       OdGePoint3d p;
       pl->getPointAt(i, p);
       context->PrintPoint(QCoreApplication::translate("info_items", "Location %1").arg(i), p);
@@ -396,7 +396,6 @@ void CZqPolylineInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoCont
         context->PrintWidth(QCoreApplication::translate("property_types", "Start segment width"), s);
         context->PrintWidth(QCoreApplication::translate("property_types", "End segment width"), e);
       }
-      if (!context->CheckCounter()) return;
     }
   });
 }
