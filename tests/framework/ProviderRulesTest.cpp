@@ -164,6 +164,76 @@ TEST_F(ProviderRulesTest, TotalsCountEachObjectOfTheirClassesOnce) {
   }
 }
 
+// Which classes show which total (for a selection of two; the totals are
+// rows of the providers built on CZqEntityExPE), in the order the rows
+// come, and what the "Total Area" row is.
+TEST_F(ProviderRulesTest, TotalsShowForTheirClassesOnly) {
+  CZqPropertiesWindowService service(db.get());
+  OdRxClass* measurable = odrxClassDictionary().getAt("CZqEntityExPE");
+  ASSERT_NE(measurable, nullptr);
+  const struct { OdRxClass* cls; bool length, area; } cases[] = {
+      {OdDbLine::desc(), true, false},       {OdDbPolyline::desc(), true, true},   {OdDb2dPolyline::desc(), true, true},
+      {OdDb3dPolyline::desc(), true, true},  {OdDbArc::desc(), true, true},        {OdDbSpline::desc(), true, true},
+      {OdDbCircle::desc(), false, true},     {OdDbRegion::desc(), false, true},    {OdDbHatch::desc(), false, true},
+      {OdDbEllipse::desc(), false, true},    {OdDbPoint::desc(), false, false},    {OdDbRay::desc(), false, false},
+      {OdDbXline::desc(), false, false},     {OdDbWipeout::desc(), false, false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.cls->name().toStdString());
+    OdRxObjectPtr made = c.cls->create();
+    const OdDbObjectId id = addToModelSpace(static_cast<OdDbEntity*>(made.get()));
+    made.release();
+    service.SetSelection({id, addLine({0, 0, 0}, {1, 0, 0})});
+    OdDbObjectPtr obj = id.openObject();
+    auto rows = zqRowsOf(obj.get());
+    const CZqPropertyDescription* length = zqRow(rows.get(), "Geometry", "Total Length");
+    const CZqPropertyDescription* area = zqRow(rows.get(), "Geometry", "Total Area");
+    const bool ex = zqProviderFor(obj.get())->isA()->isDerivedFrom(measurable);
+    EXPECT_EQ(length != nullptr, ex && c.length);
+    EXPECT_EQ(area != nullptr, ex && c.area);
+    if (length && area) {
+      int at = 0;
+      while (rows->GetAt(at) != length) ++at;
+      EXPECT_EQ(rows->GetAt(at + 1), area);  // the area total right after the length total
+    }
+    if (!area) continue;
+    EXPECT_TRUE(area->IsDynamic());
+    EXPECT_TRUE(area->IsReadOnly(obj.get()));
+    EXPECT_EQ(area->GetType(), CZqCustomPropertyType(0, CZqPropertyType::accumulatedAreaGUID));
+    EXPECT_EQ(area->GetDarkIcon().qstring(), ":/Geometry/svg_icons/dark/Geometry/Geometry_Area.svg");
+    EXPECT_EQ(area->GetLightIcon().qstring(), ":/Geometry/svg_icons/light/Geometry/Geometry_Area.svg");
+    EXPECT_EQ(area->SetValue(obj.get(), CZqVariant(1.0, true), {}), 0);
+  }
+}
+
+// The class lists decide what is counted as well as where a total shows:
+// a selection of a line, a closed 2D polyline, a circle and an ellipse
+// totals the lengths of the first two only, and the areas of the last three.
+TEST_F(ProviderRulesTest, TotalsCountTheClassesOfTheirLists) {
+  const OdDbObjectId line = addLine({0, 0, 0}, {3, 4, 0});
+  OdDb2dPolylinePtr square = OdDb2dPolyline::createObject();
+  const OdDbObjectId polyline = addToModelSpace(square.get());
+  for (const OdGePoint3d& p : {OdGePoint3d(0, 0, 0), OdGePoint3d(2, 0, 0), OdGePoint3d(2, 2, 0), OdGePoint3d(0, 2, 0)}) {
+    OdDb2dVertexPtr v = OdDb2dVertex::createObject();
+    v->setPosition(p);
+    square->appendVertex(v.get());
+  }
+  square->setClosed(true);
+  square.release();
+  OdDbCirclePtr circle = OdDbCircle::createObject();
+  circle->setRadius(1);
+  const OdDbObjectId c = addToModelSpace(circle.get());
+  circle.release();
+  OdDbEllipsePtr ellipse = OdDbEllipse::createObject();
+  ellipse->set(OdGePoint3d(9, 9, 0), OdGeVector3d::kZAxis, OdGeVector3d(2, 0, 0), 0.5, 0, Oda2PI);
+  const OdDbObjectId e = addToModelSpace(ellipse.get());
+  ellipse.release();
+  CZqPropertiesWindowService service(db.get());
+  service.SetSelection({line, polyline, c, e, line});
+  EXPECT_NEAR(get(line, "Geometry", "Total Length").GetDouble(), 5 + 8, 1e-9);
+  EXPECT_NEAR(get(c, "Geometry", "Total Area").GetDouble(), OdaPI + 4 + 2 * OdaPI, 1e-6);
+}
+
 // The rows of the provider table, as the module reads them.
 struct TableRow {
   int row;
