@@ -47,11 +47,13 @@ CZqVariant getArea(const OdDbObject* object, const CZqPropertyDescription&, cons
 
 // The row is declared as a double, but only text is taken: the text the row
 // shows, in engineering and architectural units with its "sq. in.".
-int setArea(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {
+int setArea(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
+            const CZqVariant&) {
   C* circle = ZqWritable<C>(object);
   if (!circle || value.GetType() != CZqVariant::kVtString) return kZqSetRefused;
   double area = 0;
-  if (!ZqParseAreaText(object, value.GetString().qstring(), area) || area == 0.0) return kZqSetRefused;
+  if (!ZqParseAreaText(object, value.GetString().qstring(), area)) return kZqSetRefused;
+  if (const int refused = ZqCheckLimit(description, area)) return refused;
   const double r = std::sqrt(std::fabs(area) / OdaPI);
   if (!(r > 0) || !std::isfinite(r)) return kZqSetRefused;
   circle->setRadius(r);
@@ -75,6 +77,9 @@ constexpr auto setCircumference = setSize<radiusFromCircumference>;
 // Sizes are refused at exactly 0 (the tiniest size is a size), without a
 // message box.
 constexpr ZqLimit kSize = ZqSilent(ZqExact(kZqNonZero));
+// The area: text that reads as an area other than exactly 0.
+constexpr ZqLimit kArea = ZqSilent(ZqExact(ZqMessage(kZqNonZero, QT_TRANSLATE_NOOP("errors",
+    "Area must be an area other than 0, followed by \"sq. in.\" in engineering and architectural units"))));
 
 const ZqRow kRows[] = {
 //  category      name                                                   type        identifier                read-only    get                set                icon      visibility  limit
@@ -85,7 +90,7 @@ const ZqRow kRows[] = {
   {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Radius"),         kZqDouble,  nullptr,                  kZqEditable, getRadius,         setRadius,         nullptr,  kVisKeep,   kSize},
   {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Diameter"),       kZqDouble,  nullptr,                  kZqEditable, getDiameter,       setDiameter,       nullptr,  kVisKeep,   kSize},
   {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Circumference"),  kZqDouble,  nullptr,                  kZqEditable, getCircumference,  setCircumference,  nullptr,  kVisKeep,   kSize},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Area"),           kZqDouble,  nullptr,                  kZqEditable, getArea,           setArea,           nullptr,  kVisKeep},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Area"),           kZqDouble,  nullptr,                  kZqEditable, getArea,           setArea,           nullptr,  kVisKeep,   kArea},
   {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Normal X"),       kZqDouble,  nullptr,                  kZqReadOnly, getNormal<0>,      nullptr,           nullptr,  kVisKeep},
   {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Normal Y"),       kZqDouble,  nullptr,                  kZqReadOnly, getNormal<1>,      nullptr,           nullptr,  kVisKeep},
   {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Normal Z"),       kZqDouble,  nullptr,                  kZqReadOnly, getNormal<2>,      nullptr,           nullptr,  kVisKeep},

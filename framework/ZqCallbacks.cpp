@@ -11,6 +11,10 @@ int ZqRefuseWith(const QString& translatedMessage) {
 int ZqTakeDouble(const CZqPropertyDescription& description, const CZqVariant& value, double& v) {
   if (value.GetType() != CZqVariant::kVtDouble) return kZqSetRefused;
   v = value.GetDouble();
+  return ZqCheckLimit(description, v);
+}
+
+int ZqCheckLimit(const CZqPropertyDescription& description, double& v) {
   const ZqRow* row = ZqRowOf(description);
   const ZqLimit& limit = row ? row->limit : kZqAny;
   if (limit.admits(v)) return 0;

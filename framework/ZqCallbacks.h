@@ -39,6 +39,10 @@ int ZqRefuseWith(const QString& translatedMessage);
 // message box unless the row is silent). A value that counts as zero is
 // made exactly 0. Returns 0 when v is taken, else the refusal code.
 int ZqTakeDouble(const CZqPropertyDescription& description, const CZqVariant& value, double& v);
+// The limit check alone, for setters that read their number from text:
+// 0 when v is within the limit of the description's row (the zero rule
+// applied to v), else the refusal code after the limit's message box.
+int ZqCheckLimit(const CZqPropertyDescription& description, double& v);
 
 // The current UCS of the object's database (the WCS for an object outside
 // any database).

@@ -66,6 +66,8 @@ DE.setdefault("errors", {}).update({
     "The object is in no drawing, so it can name no %1.": "Das Objekt gehört zu keiner Zeichnung und kann daher keinen %1 nennen.",
     'There is no %1 named "%2".': 'Es gibt keinen %1 namens "%2".',
     "The value is not a %1 of this drawing.": "Der Wert ist kein %1 dieser Zeichnung.",
+    'Area must be an area other than 0, followed by "sq. in." in engineering and architectural units':
+        'Die Fläche muss eine Fläche ungleich 0 sein, in technischen und architektonischen Einheiten gefolgt von "sq. in."',
 })
 
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"

@@ -49,6 +49,24 @@ TEST(ZqLimitTest, SentenceSaysWhatIsAllowed) {
   EXPECT_TRUE(ZqLimitSentence(kZqAny, "Thickness").isEmpty());
 }
 
+// Icons: by default in the folder of their stem's group word; a row may
+// name an icon set of its own (inspection, dimension and leader rows).
+TEST(ZqRowIconTest, IconFolderOfARow) {
+  const ZqRow plain{ZQ_GEOMETRY, "Start X", kZqDouble, nullptr, kZqEditable, nullptr, nullptr, nullptr};
+  const ZqRow ownSet{ZQ_GEOMETRY, "Start X", kZqDouble, nullptr, kZqEditable, nullptr, nullptr, nullptr,
+                     kVisKeep, kZqAny, "Dimension"};
+  const ZqRow none{ZQ_MATCHPROP, "MATCHPROP_Line", kZqUntyped, nullptr, nullptr, nullptr, nullptr, ""};
+  std::unique_ptr<CZqCustomPropertyDescription> a(ZqBuildDynamicDescription(plain)), b(ZqBuildDynamicDescription(ownSet)),
+      c(ZqBuildDynamicDescription(none));
+  EXPECT_EQ(a->GetDarkIcon().qstring(), ":/Geometry/svg_icons/dark/Geometry/Geometry_StartX.svg");
+  EXPECT_EQ(b->GetDarkIcon().qstring(), ":/Dimension/svg_icons/dark/Dimension/Geometry_StartX.svg");
+  EXPECT_EQ(b->GetLightIcon().qstring(), ":/Dimension/svg_icons/light/Dimension/Geometry_StartX.svg");
+  EXPECT_TRUE(c->GetDarkIcon().isEmpty() && c->GetLightIcon().isEmpty());
+  // Keys are the untranslated words, for every row.
+  EXPECT_EQ(b->GetCategoryKey().qstring(), "Geometry");
+  EXPECT_EQ(b->GetNameKey().qstring(), "Start X");
+}
+
 using E = OdDbEntity;
 using L = OdDbLine;
 using P = OdDbPolyline;
