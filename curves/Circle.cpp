@@ -5,24 +5,23 @@
 #include "DbCircle.h"
 #include <cmath>
 
-ODRX_DEFINE_MEMBERS(CZqCirclePE, CZqEntityExPE)
-
 namespace {
 
 using C = OdDbCircle;
 
 // Every size row edits the radius: the entry's sign is dropped (a negative
-// entry is taken as its absolute value), an entry of exactly 0 is refused.
+// entry is taken as its absolute value); the rows' limit refuses 0.
 double radiusFromRadius(double v) { return v; }
 double radiusFromDiameter(double v) { return v * 0.5; }
 double radiusFromCircumference(double v) { return v / 6.283185307179586; }
 
 template <double (*RadiusOf)(double)>
-int setSize(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {
+int setSize(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
+            const CZqVariant&) {
   C* circle = ZqWritable<C>(object);
-  if (!circle || value.GetType() != CZqVariant::kVtDouble) return kZqSetRefused;
-  const double v = value.GetDouble();
-  if (v == 0.0) return kZqSetRefused;
+  if (!circle) return kZqSetRefused;
+  double v = 0;
+  if (const int refused = ZqTakeDouble(description, value, v)) return refused;
   const double r = RadiusOf(std::fabs(v));
   if (!(r > 0) || !std::isfinite(r)) return kZqSetRefused;
   circle->setRadius(r);
@@ -48,11 +47,13 @@ CZqVariant getArea(const OdDbObject* object, const CZqPropertyDescription&, cons
 
 // The row is declared as a double, but only text is taken: the text the row
 // shows, in engineering and architectural units with its "sq. in.".
-int setArea(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {
+int setArea(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
+            const CZqVariant&) {
   C* circle = ZqWritable<C>(object);
   if (!circle || value.GetType() != CZqVariant::kVtString) return kZqSetRefused;
   double area = 0;
-  if (!ZqParseAreaText(object, value.GetString().qstring(), area) || area == 0.0) return kZqSetRefused;
+  if (!ZqParseAreaText(object, value.GetString().qstring(), area)) return kZqSetRefused;
+  if (const int refused = ZqCheckLimit(description, area)) return refused;
   const double r = std::sqrt(std::fabs(area) / OdaPI);
   if (!(r > 0) || !std::isfinite(r)) return kZqSetRefused;
   circle->setRadius(r);
@@ -73,30 +74,31 @@ template <int Axis> constexpr auto setCenter = ZqSetUcsCoordinate<C, &C::center,
 constexpr auto setRadius = setSize<radiusFromRadius>;
 constexpr auto setDiameter = setSize<radiusFromDiameter>;
 constexpr auto setCircumference = setSize<radiusFromCircumference>;
-constexpr auto editable = &CZqCustomPropertyPE::IsReadOnlyFalse;
-constexpr auto readOnly = &CZqCustomPropertyPE::IsReadOnlyTrue;
-using T = CZqPropertyType;
+// Sizes are refused at exactly 0 (the tiniest size is a size), without a
+// message box.
+constexpr ZqLimit kSize = ZqSilent(ZqExact(kZqNonZero));
+// The area: text that reads as an area other than exactly 0.
+constexpr ZqLimit kArea = ZqSilent(ZqExact(ZqMessage(kZqNonZero, QT_TRANSLATE_NOOP("errors",
+    "Area must be an area other than 0, followed by \"sq. in.\" in engineering and architectural units"))));
 
 const ZqRow kRows[] = {
-//  category      name                                                   type  identifier            read-only  get                set                icon      visibility
-  {ZQ_GENERAL,   QT_TRANSLATE_NOOP("property_types", "Thickness"),      0,    nullptr,              editable,  getThickness,      setThickness,      nullptr,  kVisOr4},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Center X"),       2,    T::kCoordinateXGUID,  editable,  getCenter<0>,      setCenter<0>,      nullptr,  kVisKeep},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Center Y"),       2,    T::kCoordinateYGUID,  editable,  getCenter<1>,      setCenter<1>,      nullptr,  kVisKeep},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Center Z"),       2,    T::kCoordinateZGUID,  editable,  getCenter<2>,      setCenter<2>,      nullptr,  kVisKeep},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Radius"),         2,    nullptr,              editable,  getRadius,         setRadius,         nullptr,  kVisKeep},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Diameter"),       2,    nullptr,              editable,  getDiameter,       setDiameter,       nullptr,  kVisKeep},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Circumference"),  2,    nullptr,              editable,  getCircumference,  setCircumference,  nullptr,  kVisKeep},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Area"),           2,    nullptr,              editable,  getArea,           setArea,           nullptr,  kVisKeep},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Normal X"),       2,    nullptr,              readOnly,  getNormal<0>,      nullptr,           nullptr,  kVisKeep},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Normal Y"),       2,    nullptr,              readOnly,  getNormal<1>,      nullptr,           nullptr,  kVisKeep},
-  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Normal Z"),       2,    nullptr,              readOnly,  getNormal<2>,      nullptr,           nullptr,  kVisKeep},
+//  category      name                                                   type        identifier                read-only    get                set                icon      visibility  limit
+  {ZQ_GENERAL,   QT_TRANSLATE_NOOP("property_types", "Thickness"),      kZqUntyped, nullptr,                  kZqEditable, getThickness,      setThickness,      nullptr,  kVisOr4},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Center X"),       kZqDouble,  ZqGuid::kCoordinateXGUID, kZqEditable, getCenter<0>,      setCenter<0>,      nullptr,  kVisKeep},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Center Y"),       kZqDouble,  ZqGuid::kCoordinateYGUID, kZqEditable, getCenter<1>,      setCenter<1>,      nullptr,  kVisKeep},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Center Z"),       kZqDouble,  ZqGuid::kCoordinateZGUID, kZqEditable, getCenter<2>,      setCenter<2>,      nullptr,  kVisKeep},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Radius"),         kZqDouble,  nullptr,                  kZqEditable, getRadius,         setRadius,         nullptr,  kVisKeep,   kSize},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Diameter"),       kZqDouble,  nullptr,                  kZqEditable, getDiameter,       setDiameter,       nullptr,  kVisKeep,   kSize},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Circumference"),  kZqDouble,  nullptr,                  kZqEditable, getCircumference,  setCircumference,  nullptr,  kVisKeep,   kSize},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Area"),           kZqDouble,  nullptr,                  kZqEditable, getArea,           setArea,           nullptr,  kVisKeep,   kArea},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Normal X"),       kZqDouble,  nullptr,                  kZqReadOnly, getNormal<0>,      nullptr,           nullptr,  kVisKeep},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Normal Y"),       kZqDouble,  nullptr,                  kZqReadOnly, getNormal<1>,      nullptr,           nullptr,  kVisKeep},
+  {ZQ_GEOMETRY,  QT_TRANSLATE_NOOP("property_types", "Normal Z"),       kZqDouble,  nullptr,                  kZqReadOnly, getNormal<2>,      nullptr,           nullptr,  kVisKeep},
 };
 
 }  // namespace
 
-ZQ_DEFINE_STATIC_PROPERTY_NAMES(CZqCirclePE, CZqEntityExPE, OdDbCircle, kRows)
-
-CZqString CZqCirclePE::GetClassName(const OdDbObject*) const { return QCoreApplication::translate("entity_types", "Circle"); }
+ZQ_DEFINE_PROVIDER(CZqCirclePE, QT_TRANSLATE_NOOP("entity_types", "Circle"), kRows)
 
 void CZqCircleInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) {
   ZqPrintInfoFrame<OdDbCircle>(this, object, context, [&](const OdDbCircle* circle) {

@@ -5,8 +5,8 @@
 // Properties of circles: thickness, the centre in the current UCS, the size
 // as radius, diameter, circumference and area (all editing the radius), and
 // the normal.
-class CZqCirclePE : public CZqEntityExPE {
-  ZQ_DECLARE_PROVIDER(CZqCirclePE);
+class CZqCirclePE : public ZqProvider<CZqCirclePE> {
+  ZQ_PROVIDER(CZqCirclePE);
 };
 
 class CZqCircleInfo : public CZqPrintObjectInfoPE {

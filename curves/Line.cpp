@@ -4,8 +4,6 @@
 #include "DbLine.h"
 #include <cmath>
 
-ODRX_DEFINE_MEMBERS(CZqLinePE, CZqEntityExPE)
-
 namespace {
 
 using L = OdDbLine;
@@ -55,31 +53,26 @@ template <int Axis> constexpr auto getStart = ZqGetUcsCoordinate<L, &L::startPoi
 template <int Axis> constexpr auto setStart = ZqSetUcsCoordinate<L, &L::startPoint, &L::setStartPoint, Axis>;
 template <int Axis> constexpr auto getEnd = ZqGetUcsCoordinate<L, &L::endPoint, Axis>;
 template <int Axis> constexpr auto setEnd = ZqSetUcsCoordinate<L, &L::endPoint, &L::setEndPoint, Axis>;
-constexpr auto editable = &CZqCustomPropertyPE::IsReadOnlyFalse;
-constexpr auto readOnly = &CZqCustomPropertyPE::IsReadOnlyTrue;
-using T = CZqPropertyType;
 
 const ZqRow kRows[] = {
-//  category     name                                            type identifier           read-only get           set              icon     visibility
-  {ZQ_GENERAL,  QT_TRANSLATE_NOOP("property_types", "Thickness"), 0, nullptr,              editable, getThickness, setThickness,     nullptr, kVisOr4},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Start X"),   2, T::kCoordinateXGUID,  editable, getStart<0>,  setStart<0>,      nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Start Y"),   2, T::kCoordinateYGUID,  editable, getStart<1>,  setStart<1>,      nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Start Z"),   2, T::kCoordinateZGUID,  editable, getStart<2>,  setStart<2>,      nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "End X"),     2, T::kCoordinateXGUID,  editable, getEnd<0>,    setEnd<0>,        nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "End Y"),     2, T::kCoordinateYGUID,  editable, getEnd<1>,    setEnd<1>,        nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "End Z"),     2, T::kCoordinateZGUID,  editable, getEnd<2>,    setEnd<2>,        nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Delta X"),   2, T::kCoordinateXGUID,  readOnly, getDelta<0>,  nullptr,          nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Delta Y"),   2, T::kCoordinateYGUID,  readOnly, getDelta<1>,  nullptr,          nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Delta Z"),   2, T::kCoordinateZGUID,  readOnly, getDelta<2>,  nullptr,          nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Length"),    0, nullptr,              readOnly, getLength,    nullptr,          nullptr, kVisKeep},
-  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Angle"),     2, T::kOrientGUID,       readOnly, getAngle,     nullptr,          nullptr, kVisKeep},
+//  category     name                                            type        identifier                read-only     get           set           icon     visibility
+  {ZQ_GENERAL,  QT_TRANSLATE_NOOP("property_types", "Thickness"), kZqUntyped, nullptr,                  kZqEditable,  getThickness, setThickness, nullptr, kVisOr4},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Start X"),   kZqDouble,  ZqGuid::kCoordinateXGUID, kZqEditable,  getStart<0>,  setStart<0>,  nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Start Y"),   kZqDouble,  ZqGuid::kCoordinateYGUID, kZqEditable,  getStart<1>,  setStart<1>,  nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Start Z"),   kZqDouble,  ZqGuid::kCoordinateZGUID, kZqEditable,  getStart<2>,  setStart<2>,  nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "End X"),     kZqDouble,  ZqGuid::kCoordinateXGUID, kZqEditable,  getEnd<0>,    setEnd<0>,    nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "End Y"),     kZqDouble,  ZqGuid::kCoordinateYGUID, kZqEditable,  getEnd<1>,    setEnd<1>,    nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "End Z"),     kZqDouble,  ZqGuid::kCoordinateZGUID, kZqEditable,  getEnd<2>,    setEnd<2>,    nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Delta X"),   kZqDouble,  ZqGuid::kCoordinateXGUID, kZqReadOnly,  getDelta<0>,  nullptr,      nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Delta Y"),   kZqDouble,  ZqGuid::kCoordinateYGUID, kZqReadOnly,  getDelta<1>,  nullptr,      nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Delta Z"),   kZqDouble,  ZqGuid::kCoordinateZGUID, kZqReadOnly,  getDelta<2>,  nullptr,      nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Length"),    kZqUntyped, nullptr,                  kZqReadOnly,  getLength,    nullptr,      nullptr, kVisKeep},
+  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Angle"),     kZqDouble,  ZqGuid::kOrientGUID,      kZqReadOnly,  getAngle,     nullptr,      nullptr, kVisKeep},
 };
 
 }  // namespace
 
-ZQ_DEFINE_STATIC_PROPERTY_NAMES(CZqLinePE, CZqEntityExPE, OdDbLine, kRows)
-
-CZqString CZqLinePE::GetClassName(const OdDbObject*) const { return QCoreApplication::translate("entity_types", "Line"); }
+ZQ_DEFINE_PROVIDER(CZqLinePE, QT_TRANSLATE_NOOP("entity_types", "Line"), kRows)
 
 void CZqLineInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) {
   ZqPrintInfoFrame<OdDbLine>(this, object, context, [&](const OdDbLine* line) {

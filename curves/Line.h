@@ -4,8 +4,8 @@
 
 // Properties of lines: thickness, the two end points in the current UCS,
 // their deltas, length and angle.
-class CZqLinePE : public CZqEntityExPE {
-  ZQ_DECLARE_PROVIDER(CZqLinePE);
+class CZqLinePE : public ZqProvider<CZqLinePE> {
+  ZQ_PROVIDER(CZqLinePE);
 };
 
 class CZqLineInfo : public CZqPrintObjectInfoPE {

@@ -1,10 +1,10 @@
 #pragma once
-#include "ZqRows.h"
+#include "ZqProvider.h"
 #include "KVKernel.h"
 
 // Properties of points: thickness and the position in the current UCS.
-class CZqPointPE : public CZqEntityPE {
-  ZQ_DECLARE_PROVIDER(CZqPointPE);
+class CZqPointPE : public ZqProvider<CZqPointPE> {
+  ZQ_PROVIDER(CZqPointPE);
 };
 
 class CZqPointInfo : public CZqPrintObjectInfoPE {

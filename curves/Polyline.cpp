@@ -7,8 +7,6 @@
 #include "ZQCommandsBase.h"
 #include "DbPlainClasses.h"
 
-ODRX_DEFINE_MEMBERS(CZqPolylinePE, CZqEntityExPE)
-
 namespace {
 
 using P = OdDbPolyline;
@@ -115,14 +113,13 @@ CZqVariant getSegmentWidth(const OdDbObject* object, const CZqPropertyDescriptio
 // their own widths. On a polyline without segments only the constant width
 // is cleared.
 template <bool Start>
-int setSegmentWidth(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value,
+int setSegmentWidth(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
                     const CZqVariant& index) {
   unsigned i = 0;
   P* pl = writableVertex(object, index, i);
-  if (!pl || value.GetType() != CZqVariant::kVtDouble) return kZqSetRefused;
-  double width = value.GetDouble();
-  if (ZqIsZero(width)) width = 0;
-  else if (width < 0 || !std::isfinite(width)) return kZqSetRefused;
+  if (!pl) return kZqSetRefused;
+  double width = 0;
+  if (const int refused = ZqTakeDouble(description, value, width)) return refused;
   double s = 0, e = 0;
   pl->getWidthsAt(i, s, e);
   const double constant = pl->getConstantWidth();
@@ -192,35 +189,6 @@ CZqVariant getLength(const OdDbObject* object, const CZqPropertyDescription&, co
 
 // --- Misc ----------------------------------------------------------------------
 
-CZqVariant getClosed(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
-  const P* pl = ZqReadable<P>(object);
-  return pl ? ZqEnumeration(kZqYesNo, pl->isClosed() ? 0 : 1) : CZqVariant();
-}
-
-// Tag 1 closes, tag 0 opens, any other tag changes nothing.
-int setClosed(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {
-  P* pl = ZqWritable<P>(object);
-  int32_t tag = 0;
-  if (!pl || !ZqChosenTag(value, tag)) return kZqSetRefused;
-  if (tag == 1) pl->setClosed(true);
-  else if (tag == 0) pl->setClosed(false);
-  return kZqSetApplied;
-}
-
-CZqVariant getPlinegen(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
-  const P* pl = ZqReadable<P>(object);
-  return pl ? ZqEnumeration(kZqEnabledDisabled, pl->hasPlinegen() ? 0 : 1) : CZqVariant();
-}
-
-int setPlinegen(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {
-  P* pl = ZqWritable<P>(object);
-  int32_t tag = 0;
-  if (!pl || !ZqChosenTag(value, tag)) return kZqSetRefused;
-  if (tag == 1) pl->setPlinegen(true);
-  else if (tag == 0) pl->setPlinegen(false);
-  return kZqSetApplied;
-}
-
 int setMatch(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {
   if (!ZqWritable<P>(object)) return kZqSetRefused;
   return ZqMatchFrom(object, value, &MatchPolylineProperties);
@@ -236,11 +204,25 @@ const char* const kDialogStyles[] = {
     QT_TRANSLATE_NOOP("CZqDlgCloudSettings", "Custom"),
 };
 
-bool isShapeRow(const CZqPropertyDescription& d) {
-  return d.GetName().qstring() == QCoreApplication::translate("property_types", "Shape");
+// The two cloud rows share their callbacks and are told apart by their keys.
+bool isShapeRow(const CZqPropertyDescription& d) { return d.GetNameKey().qstring() == QLatin1String("Shape"); }
+bool isRadiusRow(const CZqPropertyDescription& d) { return d.GetNameKey().qstring() == QLatin1String("Radius"); }
+
+bool isRevisionCloud(const OdDbObject* object) {
+  const P* pl = ZqReadable<P>(object);
+  return pl && pl->xData(OdString(CZqCloudBase::kAppName));
 }
-bool isRadiusRow(const CZqPropertyDescription& d) {
-  return d.GetName().qstring() == QCoreApplication::translate("property_types", "Radius");
+
+// The cloud's extended data with its radius (the first real) replaced and
+// every other item, known to this module or not, kept in its place.
+OdResBufPtr withRadius(const OdResBuf* chain, double radius) {
+  OdResBufPtr copy = chain->copyChain();
+  for (OdResBuf* p = copy->next(); p; p = p->next())
+    if (p->restype() == OdResBuf::kDxfXdReal) {
+      p->setValue(radius);
+      break;
+    }
+  return copy;
 }
 
 CZqVariant getCloud(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant&) {
@@ -298,15 +280,16 @@ OdDbCurvePtr cloudBase(const P* pl, const CLOUDLINE_COMMAND_DATA& data) {
 
 // A new radius draws the cloud again along its base; the polyline keeps its
 // entity properties, elevation and constant width, and its cloud data the
-// new radius.
+// new radius with every other item as it was.
 int setCloud(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
              const CZqVariant&) {
   P* pl = ZqWritable<P>(object);
-  if (!pl || !isRadiusRow(description) || value.GetType() != CZqVariant::kVtDouble) return kZqSetRefused;
-  const double radius = value.GetDouble();
-  if (radius <= 0 || ZqIsZero(radius)) return ZqRefuse(QT_TRANSLATE_NOOP("errors", "Value must be positive and non-zero."));
+  if (!pl || !isRadiusRow(description)) return kZqSetRefused;
+  double radius = 0;
+  if (const int refused = ZqTakeDouble(description, value, radius)) return refused;
   CLOUDLINE_COMMAND_DATA data;
-  if (!std::isfinite(radius) || !CZqCloudBase::ReadCloudData(pl, data)) return kZqSetRefused;
+  const OdResBufPtr xdata = pl->xData(OdString(CZqCloudBase::kAppName));
+  if (!xdata || !CZqCloudBase::ReadCloudData(pl, data)) return kZqSetRefused;
   CZqCloudBase cloud;
   try {
     cloud.setBaseCurve(cloudBase(pl, data));
@@ -331,7 +314,7 @@ int setCloud(const OdDbObject* object, const CZqPropertyDescription& description
   pl->setLineWeight(lineWeight);
   pl->setElevation(elevation);
   pl->setConstantWidth(constantWidth);
-  CZqCloudBase::WriteCloudData(pl, data);
+  pl->setXData(withRadius(xdata.get(), radius).get());
   return kZqSetApplied;
 }
 
@@ -340,56 +323,41 @@ constexpr auto setThickness = ZqSetDouble<P, &P::setThickness>;
 constexpr auto setGlobalWidth = ZqSetDouble<P, &P::setConstantWidth>;
 constexpr auto getElevation = ZqGetDouble<P, &P::elevation>;
 constexpr auto setElevation = ZqSetDouble<P, &P::setElevation>;
-constexpr auto editable = &CZqCustomPropertyPE::IsReadOnlyFalse;
-constexpr auto readOnly = &CZqCustomPropertyPE::IsReadOnlyTrue;
-using T = CZqPropertyType;
+constexpr auto getClosed = ZqGetFlag<P, &P::isClosed, kZqYesNo>;
+constexpr auto setClosed = ZqSetFlag<P, &P::setClosed, kZqYesNo>;
+constexpr auto getPlinegen = ZqGetFlag<P, &P::hasPlinegen, kZqEnabledDisabled>;
+constexpr auto setPlinegen = ZqSetFlag<P, &P::setPlinegen, kZqEnabledDisabled>;
+// Segment widths refuse negative values, without a message box.
+constexpr ZqLimit kWidth = ZqSilent(kZqNonNegative);
+constexpr ZqLimit kCloudRadius = ZqMessage(kZqPositive, QT_TRANSLATE_NOOP("errors", "Value must be positive and non-zero."));
 
 const ZqRow kRows[] = {
-//  category       name                                                         type  identifier                 read-only          get                      set                      icon                           visibility
-  {ZQ_GENERAL,    QT_TRANSLATE_NOOP("property_types", "Thickness"),            2,    nullptr,                   editable,          getThickness,            setThickness,            nullptr,                       kVisOr4},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex"),               6,    T::kVertexGUID,            editable,          getVertex,               setVertex,               nullptr,                       kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex X"),             2,    T::kVertexXGUID,           isVertexReadOnly,  getVertexCoordinate<0>,  setVertexCoordinate<0>,  nullptr,                       kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex Y"),             2,    T::kVertexYGUID,           isVertexReadOnly,  getVertexCoordinate<1>,  setVertexCoordinate<1>,  nullptr,                       kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Start segment width"),  0,    T::kVertexStartWidthGUID,  editable,          getSegmentWidth<true>,   setSegmentWidth<true>,   "Geometry_StartSegmentWidth",  kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "End segment width"),    0,    T::kVertexEndWidthGUID,    editable,          getSegmentWidth<false>,  setSegmentWidth<false>,  "Geometry_EndSegmentWidth",    kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Global width"),         0,    nullptr,                   editable,          getGlobalWidth,          setGlobalWidth,          "Geometry_GlobalWidth",        kVisKeep},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Elevation"),            0,    nullptr,                   editable,          getElevation,            setElevation,            nullptr,                       kVisXor8},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Area"),                 0,    nullptr,                   readOnly,          getArea,                 nullptr,                 nullptr,                       kVisKeep},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Length"),               0,    nullptr,                   readOnly,          getLength,               nullptr,                 nullptr,                       kVisKeep},
-  {ZQ_MISC,       QT_TRANSLATE_NOOP("property_types", "Closed"),               0,    nullptr,                   editable,          getClosed,               setClosed,               nullptr,                       kVisKeep},
-  {ZQ_MISC,       QT_TRANSLATE_NOOP("property_types", "LineStyleGen"),         0,    nullptr,                   editable,          getPlinegen,             setPlinegen,             "Misc_LTGeneration",           kVisXor8},
-  {ZQ_MATCHPROP,  "MATCHPROP_Polyline",                                        0,    nullptr,                   nullptr,           ZqGetOwnId,              setMatch,                "",                            kVisMatchProp},
+//  category       name                                                         type            identifier                     read-only          get                      set                      icon                           visibility     limit
+  {ZQ_GENERAL,    QT_TRANSLATE_NOOP("property_types", "Thickness"),            kZqDouble,      nullptr,                       kZqEditable,       getThickness,            setThickness,            nullptr,                       kVisOr4},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex"),               kZqCollection,  ZqGuid::kVertexGUID,           kZqEditable,       getVertex,               setVertex,               nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex X"),             kZqDouble,      ZqGuid::kVertexXGUID,          isVertexReadOnly,  getVertexCoordinate<0>,  setVertexCoordinate<0>,  nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex Y"),             kZqDouble,      ZqGuid::kVertexYGUID,          isVertexReadOnly,  getVertexCoordinate<1>,  setVertexCoordinate<1>,  nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Start segment width"),  kZqUntyped,     ZqGuid::kVertexStartWidthGUID, kZqEditable,       getSegmentWidth<true>,   setSegmentWidth<true>,   "Geometry_StartSegmentWidth",  kVisXor8,      kWidth},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "End segment width"),    kZqUntyped,     ZqGuid::kVertexEndWidthGUID,   kZqEditable,       getSegmentWidth<false>,  setSegmentWidth<false>,  "Geometry_EndSegmentWidth",    kVisXor8,      kWidth},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Global width"),         kZqUntyped,     nullptr,                       kZqEditable,       getGlobalWidth,          setGlobalWidth,          "Geometry_GlobalWidth",        kVisKeep},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Elevation"),            kZqUntyped,     nullptr,                       kZqEditable,       getElevation,            setElevation,            nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Area"),                 kZqUntyped,     nullptr,                       kZqReadOnly,       getArea,                 nullptr,                 nullptr,                       kVisKeep},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Length"),               kZqUntyped,     nullptr,                       kZqReadOnly,       getLength,               nullptr,                 nullptr,                       kVisKeep},
+  {ZQ_MISC,       QT_TRANSLATE_NOOP("property_types", "Closed"),               kZqUntyped,     nullptr,                       kZqEditable,       getClosed,               setClosed,               nullptr,                       kVisKeep},
+  {ZQ_MISC,       QT_TRANSLATE_NOOP("property_types", "LineStyleGen"),         kZqUntyped,     nullptr,                       kZqEditable,       getPlinegen,             setPlinegen,             "Misc_LTGeneration",           kVisXor8},
+  {ZQ_MATCHPROP,  "MATCHPROP_Polyline",                                        kZqUntyped,     nullptr,                       nullptr,           ZqGetOwnId,              setMatch,                "",                            kVisMatchProp},
 };
 
-const ZqRow kCloudRows[] = {
-//  category                                                 name                                            type  identifier  read-only         get        set        icon                visibility
-  {QT_TRANSLATE_NOOP("property_groups", "Cloud Settings"),  QT_TRANSLATE_NOOP("property_types", "Shape"),   0,    nullptr,    isCloudReadOnly,  getCloud,  setCloud,  "Misc_Name",        kVisKeep},
-  {QT_TRANSLATE_NOOP("property_groups", "Cloud Settings"),  QT_TRANSLATE_NOOP("property_types", "Radius"),  2,    nullptr,    isCloudReadOnly,  getCloud,  setCloud,  "Geometry_Radius",  kVisKeep},
+// The cloud settings, for a polyline that is a revision cloud.
+const ZqConditionalRow kCloudRows[] = {
+//  only when          category                                                 name                                            type        identifier  read-only         get        set        icon                visibility  limit
+  {isRevisionCloud, {QT_TRANSLATE_NOOP("property_groups", "Cloud Settings"),  QT_TRANSLATE_NOOP("property_types", "Shape"),   kZqUntyped, nullptr,    isCloudReadOnly,  getCloud,  setCloud,  "Misc_Name",        kVisKeep}},
+  {isRevisionCloud, {QT_TRANSLATE_NOOP("property_groups", "Cloud Settings"),  QT_TRANSLATE_NOOP("property_types", "Radius"),  kZqDouble,  nullptr,    isCloudReadOnly,  getCloud,  setCloud,  "Geometry_Radius",  kVisKeep,   kCloudRadius}},
 };
 
 }  // namespace
 
-OdArray<CZqPropertyDescription*>& CZqPolylinePE::staticList() {
-  static OdArray<CZqPropertyDescription*> list;
-  return list;
-}
-
-void CZqPolylinePE::GetPropertyNames(const OdDbObject* object, CZqPropertiesContainer*& container,
-                                     const OdRxClass* objectClass, const OdRxClass* providerClass, bool excludeOwn) {
-  container = nullptr;
-  CZqEntityExPE::GetPropertyNames(object, container, objectClass, providerClass, excludeOwn);
-  if (!ZqAddStaticRows(container, objectClass, providerClass, excludeOwn, OdDbPolyline::desc(),
-                       CZqPolylinePE::desc(), staticList(), kRows))
-    return;
-  // The cloud settings, for a polyline that is a revision cloud.
-  const P* pl = ZqReadable<P>(object);
-  if (!pl || !pl->xData(OdString(CZqCloudBase::kAppName))) return;
-  for (const ZqRow& row : kCloudRows) container->AddDynamic(ZqBuildDynamicDescription(row));
-}
-
-CZqString CZqPolylinePE::GetClassName(const OdDbObject*) const {
-  return QCoreApplication::translate("entity_types", "PolyLine");
-}
+ZQ_DEFINE_PROVIDER(CZqPolylinePE, QT_TRANSLATE_NOOP("entity_types", "PolyLine"), kRows, kCloudRows)
 
 void CZqPolylineInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) {
   ZqPrintInfoFrame<OdDbPolyline>(this, object, context, [&](const OdDbPolyline* pl) {
@@ -416,9 +384,9 @@ void CZqPolylineInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoCont
       uniform = s == first && e == first;
     }
     if (uniform) context->PrintWidth(QCoreApplication::translate("property_types", "Global width"), pl->getConstantWidth());
-    // The listing may be stopped before any vertex and after each one.
-    if (!context->CheckCounter()) return;
+    // The listing may be stopped before each vertex: one question per vertex.
     for (unsigned i = 0; i < n; ++i) {
+      if (!context->CheckCounter()) return;
       OdGePoint3d p;
       pl->getPointAt(i, p);
       context->PrintPoint(QCoreApplication::translate("info_items", "Location %1").arg(i), p);
@@ -428,7 +396,6 @@ void CZqPolylineInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoCont
         context->PrintWidth(QCoreApplication::translate("property_types", "Start segment width"), s);
         context->PrintWidth(QCoreApplication::translate("property_types", "End segment width"), e);
       }
-      if (!context->CheckCounter()) return;
     }
   });
 }

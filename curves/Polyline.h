@@ -6,8 +6,8 @@
 // segment widths, global width, elevation, area, length, closing and
 // linetype generation, the hidden matching row, and the settings of a
 // revision cloud for a polyline that is one.
-class CZqPolylinePE : public CZqEntityExPE {
-  ZQ_DECLARE_PROVIDER(CZqPolylinePE);
+class CZqPolylinePE : public ZqProvider<CZqPolylinePE> {
+  ZQ_PROVIDER(CZqPolylinePE);
 };
 
 class CZqPolylineInfo : public CZqPrintObjectInfoPE {

@@ -3,11 +3,7 @@
 #include "ZqInfoFrame.h"
 #include "DbRay.h"
 
-ODRX_DEFINE_MEMBERS(CZqRayPE, CZqEntityPE)
-
-ZQ_DEFINE_STATIC_PROPERTY_NAMES(CZqRayPE, CZqEntityPE, OdDbRay, kZqRayRows<OdDbRay>)
-
-CZqString CZqRayPE::GetClassName(const OdDbObject*) const { return QCoreApplication::translate("entity_types", "Ray"); }
+ZQ_DEFINE_PROVIDER(CZqRayPE, QT_TRANSLATE_NOOP("entity_types", "Ray"), kZqRayRows<OdDbRay>)
 
 void CZqRayInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) {
   ZqPrintInfoFrame<OdDbRay>(this, object, context, [&](const OdDbRay* ray) {

@@ -1,10 +1,10 @@
 #pragma once
-#include "ZqRows.h"
+#include "ZqProvider.h"
 #include "KVKernel.h"
 
 // Properties of rays: base point, second point and direction in the current UCS.
-class CZqRayPE : public CZqEntityPE {
-  ZQ_DECLARE_PROVIDER(CZqRayPE);
+class CZqRayPE : public ZqProvider<CZqRayPE> {
+  ZQ_PROVIDER(CZqRayPE);
 };
 
 class CZqRayInfo : public CZqPrintObjectInfoPE {

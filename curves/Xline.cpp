@@ -3,11 +3,7 @@
 #include "ZqInfoFrame.h"
 #include "DbXline.h"
 
-ODRX_DEFINE_MEMBERS(CZqXlinePE, CZqEntityPE)
-
-ZQ_DEFINE_STATIC_PROPERTY_NAMES(CZqXlinePE, CZqEntityPE, OdDbXline, kZqRayRows<OdDbXline>)
-
-CZqString CZqXlinePE::GetClassName(const OdDbObject*) const { return QCoreApplication::translate("entity_types", "ILine"); }
+ZQ_DEFINE_PROVIDER(CZqXlinePE, QT_TRANSLATE_NOOP("entity_types", "ILine"), kZqRayRows<OdDbXline>)
 
 CZqString CZqXlinePE::GetClassKey() const { return CZqString("ILINE"); }
 

@@ -1,10 +1,10 @@
 #pragma once
-#include "ZqRows.h"
+#include "ZqProvider.h"
 #include "KVKernel.h"
 
 // Properties of construction lines: the rows of rays over OdDbXline.
-class CZqXlinePE : public CZqEntityPE {
-  ZQ_DECLARE_PROVIDER(CZqXlinePE);
+class CZqXlinePE : public ZqProvider<CZqXlinePE> {
+  ZQ_PROVIDER(CZqXlinePE);
 
  public:
   // The untranslated key by which hosts name construction lines.

@@ -1,8 +1,27 @@
 #include "ZqCallbacks.h"
+#include "DbSymbolTable.h"
 
-int ZqRefuse(const char* message) {
-  GetZqSystemServices()->MessageBox(QCoreApplication::translate("errors", message),
-                                    QCoreApplication::translate("errors", "Error"));
+int ZqRefuse(const char* message) { return ZqRefuseWith(QCoreApplication::translate("errors", message)); }
+
+int ZqRefuseWith(const QString& translatedMessage) {
+  GetZqSystemServices()->MessageBox(translatedMessage, QCoreApplication::translate("errors", "Error"));
+  return kZqSetRefused;
+}
+
+int ZqTakeDouble(const CZqPropertyDescription& description, const CZqVariant& value, double& v) {
+  if (value.GetType() != CZqVariant::kVtDouble) return kZqSetRefused;
+  v = value.GetDouble();
+  return ZqCheckLimit(description, v);
+}
+
+int ZqCheckLimit(const CZqPropertyDescription& description, double& v) {
+  const ZqRow* row = ZqRowOf(description);
+  const ZqLimit& limit = row ? row->limit : kZqAny;
+  if (limit.admits(v)) return 0;
+  if (limit.box) {
+    const QString sentence = ZqLimitSentence(limit, description.GetName().qstring());
+    ZqRefuseWith(sentence.isEmpty() ? QCoreApplication::translate("errors", "Invalid input.") : sentence);
+  }
   return kZqSetRefused;
 }
 
@@ -12,12 +31,40 @@ OdDbCoordinateService ZqUcsOf(const OdDbObject* object) {
 }
 
 bool ZqReplaceUcsCoordinate(const OdDbObject* object, OdGePoint3d& wcsPoint, int axis, double value) {
+  if (ZqIsZero(value)) value = 0;
   const OdDbCoordinateService ucs = ZqUcsOf(object);
   OdGePoint3d p = ucs.wcsToUcs(wcsPoint);
   if (p[axis] == value) return false;
   p[axis] = value;
   wcsPoint = ucs.ucsToWcs(p);
   return true;
+}
+
+const ZqSymbolTable kZqLayers{&OdDbDatabase::getLayerTableId, QT_TRANSLATE_NOOP("errors", "layer")};
+const ZqSymbolTable kZqTextStyles{&OdDbDatabase::getTextStyleTableId, QT_TRANSLATE_NOOP("errors", "text style")};
+const ZqSymbolTable kZqDimensionStyles{&OdDbDatabase::getDimStyleTableId, QT_TRANSLATE_NOOP("errors", "dimension style")};
+const ZqSymbolTable kZqLinetypes{&OdDbDatabase::getLinetypeTableId, QT_TRANSLATE_NOOP("errors", "linetype")};
+const ZqSymbolTable kZqBlocks{&OdDbDatabase::getBlockTableId, QT_TRANSLATE_NOOP("errors", "block")};
+
+OdDbObjectId ZqRecordFor(const OdDbObject* object, const ZqSymbolTable& table, const CZqVariant& value, QString* why) {
+  const QString word = QCoreApplication::translate("errors", table.word);
+  OdDbDatabase* db = object ? object->database() : nullptr;
+  OdDbObjectPtr tableObject = db ? (db->*table.tableId)().openObject() : OdDbObjectPtr();
+  const OdDbSymbolTable* records = odrxCast<OdDbSymbolTable>(tableObject.get());
+  if (!records) {
+    if (why) *why = QCoreApplication::translate("errors", "The object is in no drawing, so it can name no %1.").arg(word);
+    return OdDbObjectId();
+  }
+  if (value.GetType() == CZqVariant::kVtString) {
+    const QString name = value.GetString().qstring().trimmed();
+    const OdDbObjectId id = records->getAt(OdString(name));
+    if (id.isNull() && why) *why = QCoreApplication::translate("errors", "There is no %1 named \"%2\".").arg(word, name);
+    return id;
+  }
+  const OdDbObjectId id = value.GetId();
+  if (!id.isNull() && !id.isErased() && id.database() == db && records->has(id)) return id;
+  if (why) *why = QCoreApplication::translate("errors", "The value is not a %1 of this drawing.").arg(word);
+  return OdDbObjectId();
 }
 
 CZqVariant ZqGetOwnId(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {

@@ -1,9 +1,7 @@
 #include "ZqEntityExPE.h"
 #include "ZqCallbacks.h"
 #include "ZQCommandsBase.h"
-#include "DbPlainClasses.h"
-
-ODRX_DEFINE_MEMBERS(CZqEntityExPE, CZqEntityPE)
+#include <set>
 
 namespace {
 
@@ -13,54 +11,60 @@ const CZqSelectionSet* currentSelection() {
   return gate ? gate->GetCurrentSelection() : nullptr;
 }
 
-template <double (*Measure)(const OdDbObject*)>
+using ClassList = std::span<OdRxClass* (*const)()>;
+
+bool isKindOfAny(const OdDbObject* object, ClassList classes) {
+  for (OdRxClass* (*cls)() : classes)
+    if (object->isKindOf(cls())) return true;
+  return false;
+}
+
+// The classes each total adds up, in the order they are tested: a total
+// is shown for an object of one of them and counts only objects of them.
+OdRxClass* (*const kLengthClasses[])() = {&OdDbLine::desc, &OdDbPolyline::desc, &OdDb2dPolyline::desc,
+                                          &OdDb3dPolyline::desc, &OdDbArc::desc, &OdDbSpline::desc};
+OdRxClass* (*const kAreaClasses[])() = {&OdDbCircle::desc, &OdDbSpline::desc, &OdDbPolyline::desc,
+                                        &OdDbRegion::desc, &OdDbHatch::desc, &OdDbArc::desc,
+                                        &OdDb2dPolyline::desc, &OdDb3dPolyline::desc, &OdDbEllipse::desc};
+
+// The sum of Measure over the selected objects of the listed classes, each
+// object once however often the selection names it.
+template <double (*Measure)(const OdDbObject*), const auto& Classes>
 CZqVariant getTotal(const OdDbObject*, const CZqPropertyDescription&, const CZqVariant&) {
   const CZqSelectionSet* selection = currentSelection();
   if (!selection) return CZqVariant();
+  std::set<OdDbObjectId> counted;
   double total = 0;
-  for (const OdDbObjectId& id : selection->GetObjectIds())
-    if (OdDbObjectPtr obj = id.openObject(OdDb::kForRead)) total += Measure(obj.get());
+  for (const OdDbObjectId& id : selection->GetObjectIds()) {
+    if (!counted.insert(id).second) continue;
+    OdDbObjectPtr obj = id.openObject(OdDb::kForRead);
+    if (obj && isKindOfAny(obj.get(), Classes)) total += Measure(obj.get());
+  }
   return ZqDouble(total);
+}
+
+// Shown for an object of the listed classes when two or more objects are selected.
+template <const auto& Classes>
+bool totalShown(const OdDbObject* object) {
+  const CZqSelectionSet* selection = currentSelection();
+  return object && selection && selection->Count() >= 2 && isKindOfAny(object, Classes);
 }
 
 // The totals cannot be set; their set callback does nothing and answers 0.
 int setNothing(const OdDbObject*, const CZqPropertyDescription&, const CZqVariant&, const CZqVariant&) { return 0; }
 
-bool isKindOfAny(const OdDbObject* object, std::initializer_list<OdRxClass*> classes) {
-  for (OdRxClass* cls : classes)
-    if (object->isKindOf(cls)) return true;
-  return false;
-}
+constexpr auto alwaysTrue = &CZqEntityExPE::AlwaysTrue;
+constexpr auto totalLength = getTotal<&ZqCurvesHelper::GetLength, kLengthClasses>;
+constexpr auto totalArea = getTotal<&ZqCurvesHelper::GetArea, kAreaClasses>;
 
-//   category     name                                            type identifier                              read-only                    get                                 set         icon             vis
-const ZqRow kTotalLength{ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Total Length"), 0, CZqPropertyType::accumulatedLengthGUID, &CZqEntityExPE::AlwaysTrue, getTotal<&ZqCurvesHelper::GetLength>, setNothing, "Geometry_Length", kVisKeep};
-const ZqRow kTotalArea  {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Total Area"),   0, CZqPropertyType::accumulatedAreaGUID,   &CZqEntityExPE::AlwaysTrue, getTotal<&ZqCurvesHelper::GetArea>,   setNothing, "Geometry_Area",   kVisKeep};
+const ZqConditionalRow kTotals[] = {
+//  only when                       category     name                                            type        identifier                   read-only   get          set         icon
+  {totalShown<kLengthClasses>,    {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Total Length"), kZqUntyped, ZqGuid::accumulatedLengthGUID, alwaysTrue, totalLength, setNothing, "Geometry_Length"}},
+  {totalShown<kAreaClasses>,      {ZQ_GEOMETRY, QT_TRANSLATE_NOOP("property_types", "Total Area"),   kZqUntyped, ZqGuid::accumulatedAreaGUID,   alwaysTrue, totalArea,   setNothing, "Geometry_Area"}},
+};
 
 }  // namespace
 
+ZQ_DEFINE_PROVIDER(CZqEntityExPE, nullptr, {}, kTotals)
+
 bool CZqEntityExPE::AlwaysTrue(const OdDbObject*, const CZqPropertyDescription&) { return true; }
-
-OdArray<CZqPropertyDescription*>& CZqEntityExPE::staticList() {
-  static OdArray<CZqPropertyDescription*> list;
-  return list;
-}
-
-void CZqEntityExPE::GetPropertyNames(const OdDbObject* object, CZqPropertiesContainer*& container,
-                                     const OdRxClass* objectClass, const OdRxClass* providerClass, bool excludeOwn) {
-  container = nullptr;
-  CZqEntityPE::GetPropertyNames(object, container, objectClass, providerClass, excludeOwn);
-  if (!ZqAddStaticRows(container, objectClass, providerClass, excludeOwn, OdDbEntity::desc(), CZqEntityExPE::desc(),
-                       staticList(), {}))
-    return;
-  const CZqSelectionSet* selection = currentSelection();
-  if (!object || !selection || selection->Count() < 2) return;
-  if (isKindOfAny(object, {OdDbLine::desc(), OdDbPolyline::desc(), OdDb2dPolyline::desc(), OdDb3dPolyline::desc(),
-                           OdDbArc::desc(), OdDbSpline::desc()}))
-    container->AddDynamic(ZqBuildDynamicDescription(kTotalLength));
-  if (isKindOfAny(object, {OdDbCircle::desc(), OdDbSpline::desc(), OdDbPolyline::desc(), OdDbRegion::desc(),
-                           OdDbHatch::desc(), OdDbArc::desc(), OdDb2dPolyline::desc(), OdDb3dPolyline::desc(),
-                           OdDbEllipse::desc()}))
-    container->AddDynamic(ZqBuildDynamicDescription(kTotalArea));
-}
-
-CZqString CZqEntityExPE::GetClassName(const OdDbObject* object) const { return CZqEntityPE::GetClassName(object); }

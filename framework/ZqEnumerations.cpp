@@ -1,4 +1,5 @@
 #include "ZqEnumerations.h"
+#include <QStringList>
 
 const ZqChoice kZqYesNo[2] = {
     {QT_TRANSLATE_NOOP("property_values", "Yes"), 1},
@@ -28,4 +29,16 @@ bool ZqChosenTag(const CZqVariant& value, int32_t& tag) {
   if (t.GetType() != CZqVariant::kVtInt32) return false;
   tag = t.GetInt32();
   return true;
+}
+
+int ZqChoiceIndex(std::span<const ZqChoice> choices, int32_t tag) {
+  for (size_t i = 0; i < choices.size(); ++i)
+    if (choices[i].tag == tag) return int(i);
+  return -1;
+}
+
+QString ZqChoicesSentence(const QString& rowName, std::span<const ZqChoice> choices) {
+  QStringList words;
+  for (const ZqChoice& c : choices) words << QCoreApplication::translate("property_values", c.word);
+  return QCoreApplication::translate("errors", "%1 takes one of: %2").arg(rowName, words.join(QStringLiteral(", ")));
 }

@@ -1,4 +1,37 @@
 #include "ZqRows.h"
+#include <cmath>
+
+namespace {
+constexpr double kZeroTolerance = 1e-10;
+}  // namespace
+
+bool ZqLimit::admits(double& v) const {
+  if (!std::isfinite(v)) return false;
+  if (kind == kAny) return true;  // taken as given
+  if (snap && std::fabs(v) <= kZeroTolerance) v = 0;
+  switch (kind) {
+    case kAny: return true;
+    case kPositive: return v > 0;
+    case kNonNegative: return v >= 0;
+    case kNonZero: return v != 0;
+    case kRange: return v >= low && v <= high;
+  }
+  return false;
+}
+
+QString ZqLimitSentence(const ZqLimit& limit, const QString& rowName) {
+  if (limit.message) return QCoreApplication::translate("errors", limit.message);
+  switch (limit.kind) {
+    case ZqLimit::kAny: return QString();
+    case ZqLimit::kPositive: return QCoreApplication::translate("errors", "%1 must be greater than 0").arg(rowName);
+    case ZqLimit::kNonNegative: return QCoreApplication::translate("errors", "%1 must be 0 or greater").arg(rowName);
+    case ZqLimit::kNonZero: return QCoreApplication::translate("errors", "%1 must not be 0").arg(rowName);
+    case ZqLimit::kRange:
+      return QCoreApplication::translate("errors", "%1 must be between %2 and %3")
+          .arg(rowName, QString::number(limit.low), QString::number(limit.high));
+  }
+  return QString();
+}
 
 bool ZqIsMatchPropRow(const ZqRow& row) { return QByteArray(row.category) == ZQ_MATCHPROP; }
 
@@ -7,14 +40,22 @@ QString ZqIconStem(const ZqRow& row) {
   return QString::fromLatin1(row.category) + '_' + QString::fromLatin1(row.name).remove(' ');
 }
 
-QString ZqDarkIconPath(const QString& stem) {
-  const QString group = stem.section('_', 0, 0);
+QString ZqIconFolder(const ZqRow& row) {
+  return row.iconFolder ? QString::fromLatin1(row.iconFolder) : ZqIconStem(row).section('_', 0, 0);
+}
+
+QString ZqDarkIconPath(const QString& stem, const QString& folder) {
+  const QString group = folder.isEmpty() ? stem.section('_', 0, 0) : folder;
   return QString(":/%1/svg_icons/dark/%1/%2.svg").arg(group, stem);
 }
 
-QString ZqLightIconPath(const QString& stem) {
-  const QString group = stem.section('_', 0, 0);
+QString ZqLightIconPath(const QString& stem, const QString& folder) {
+  const QString group = folder.isEmpty() ? stem.section('_', 0, 0) : folder;
   return QString(":/%1/svg_icons/light/%1/%2.svg").arg(group, stem);
+}
+
+const ZqRow* ZqRowOf(const CZqPropertyDescription& description) {
+  return static_cast<const ZqRow*>(description.GetRowData());
 }
 
 namespace {
@@ -27,11 +68,21 @@ QString nameText(const ZqRow& row) {
 }
 QString darkIcon(const ZqRow& row) {
   const QString stem = ZqIconStem(row);
-  return stem.isEmpty() ? QString() : ZqDarkIconPath(stem);
+  return stem.isEmpty() ? QString() : ZqDarkIconPath(stem, ZqIconFolder(row));
 }
 QString lightIcon(const ZqRow& row) {
   const QString stem = ZqIconStem(row);
-  return stem.isEmpty() ? QString() : ZqLightIconPath(stem);
+  return stem.isEmpty() ? QString() : ZqLightIconPath(stem, ZqIconFolder(row));
+}
+CZqCustomPropertyType typeOf(const ZqRow& row) {
+  return CZqCustomPropertyType(row.type, row.typeId ? CZqString(row.typeId) : CZqString());
+}
+// What the host's palette does not show: the untranslated keys the row is
+// found by, the sentence of its limit and the row itself for the setters.
+void attachRowData(CZqCustomPropertyDescription* d, const ZqRow& row) {
+  d->SetKeys(CZqString(row.category), CZqString(row.name));
+  d->SetRefusalText(ZqLimitSentence(row.limit, nameText(row)));
+  d->SetRowData(&row);
 }
 }  // namespace
 
@@ -40,7 +91,7 @@ CZqCustomPropertyDescription* ZqBuildFixedDescription(const ZqRow& row, OdArray<
   d->SetCategory(categoryText(row));
   d->SetName(nameText(row));
   d->SetIsDynamic(false);
-  if (!ZqIsMatchPropRow(row)) d->SetType(CZqCustomPropertyType(row.type, row.typeId ? CZqString(row.typeId) : CZqString()));
+  if (!ZqIsMatchPropRow(row)) d->SetType(typeOf(row));
   d->SetDescription(CZqString());
   d->PutGetMethod(row.get);
   d->PutSetMethod(row.set);
@@ -48,6 +99,7 @@ CZqCustomPropertyDescription* ZqBuildFixedDescription(const ZqRow& row, OdArray<
   d->SetIcon(CZqString());
   d->SetDarkIcon(darkIcon(row));
   d->SetLightIcon(lightIcon(row));
+  attachRowData(d, row);
   list.append(d);
   switch (row.vis.op) {
     case ZqVis::kKeep: break;
@@ -61,7 +113,7 @@ CZqCustomPropertyDescription* ZqBuildFixedDescription(const ZqRow& row, OdArray<
 CZqCustomPropertyDescription* ZqBuildDynamicDescription(const ZqRow& row) {
   auto* d = new CZqCustomPropertyDescription();
   d->SetName(nameText(row));
-  d->SetType(CZqCustomPropertyType(row.type, row.typeId ? CZqString(row.typeId) : CZqString()));
+  d->SetType(typeOf(row));
   d->SetIcon(CZqString());
   d->SetDarkIcon(darkIcon(row));
   d->SetLightIcon(lightIcon(row));
@@ -70,6 +122,7 @@ CZqCustomPropertyDescription* ZqBuildDynamicDescription(const ZqRow& row) {
   d->PutSetMethod(row.set);
   d->PutIsReadOnlyMethod(row.readOnly);
   d->SetIsDynamic(true);
+  attachRowData(d, row);
   return d;
 }
 
@@ -79,7 +132,7 @@ bool ZqAddStaticRows(CZqPropertiesContainer* container, const OdRxClass* objectC
   if (providerClass && !providerClass->isDerivedFrom(ownClass)) return false;
   if (!container) return false;
   const bool wanted = !objectClass || objectClass->isDerivedFrom(drawingClass);
-  if (!staticList.isEmpty()) {
+  if (!staticList.isEmpty() || rows.empty()) {
     if (wanted && !excludeOwn) container->Add(staticList);
     return wanted;
   }
@@ -87,4 +140,10 @@ bool ZqAddStaticRows(CZqPropertiesContainer* container, const OdRxClass* objectC
   for (const ZqRow& row : rows) ZqBuildFixedDescription(row, staticList);
   if (wanted) container->Add(staticList);
   return wanted;
+}
+
+void ZqAddConditionalRows(const OdDbObject* object, CZqPropertiesContainer* container,
+                          std::span<const ZqConditionalRow> rows) {
+  for (const ZqConditionalRow& c : rows)
+    if (c.when(object)) container->AddDynamic(ZqBuildDynamicDescription(c.row));
 }

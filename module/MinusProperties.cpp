@@ -105,7 +105,7 @@ void CZqCommandMinusProperties::ExecuteCommand(OdEdCommandContext* ctx) {
       ctx->putString(OdString(why));
       continue;
     }
-    for (const CZqEditResult& r : service.SetValue(row->category, row->name, value)) {
+    for (const CZqEditResult& r : service.SetValue(row->categoryKey, row->nameKey, value)) {
       if (r.code == kZqSetRefused) {
         ctx->putString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "Refused for %1: %2").arg(r.id.getHandle().ascii().qstring(),
                                                                r.message.isEmpty() ? QCoreApplication::translate("CZqCommandMinusProperties", "invalid value") : r.message.qstring())));

@@ -5,6 +5,7 @@
 #include "RxModule.h"
 #include "MinusProperties.h"
 #include "ZqEntityExPE.h"
+#include "ZqLifecycle.h"
 #include "Circle.h"
 #include "Line.h"
 #include "Point.h"
@@ -26,10 +27,11 @@ class CZqPropertiesModule : public OdRxModule {
  private:
   // The rows of the attachment table that have providers, in table order.
   std::vector<ZqAttachment> attachments();
+  void startUp(ZqUndoLog& log);
 
-#define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Info, InfoPosition) OdStaticRxObject<Provider> m_##Provider;
+#define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Step, Info, InfoPosition) OdStaticRxObject<Provider> m_##Provider;
 #include "ZqProviders.def"
-#define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Info, InfoPosition) OdStaticRxObject<Info> m_##Info;
+#define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Step, Info, InfoPosition) OdStaticRxObject<Info> m_##Info;
 #include "ZqProviders.def"
   OdStaticRxObject<CZqCommandMinusProperties> m_command;
 };

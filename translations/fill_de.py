@@ -122,6 +122,20 @@ DE.setdefault("zqprops", {}).update({
     "zqprops: --save-as takes one of %1, not \"%2\".": "zqprops: --save-as nimmt eines von %1, nicht \"%2\".",
     "zqprops: --vertex takes a vertex number from 1 on, not \"%1\".": "zqprops: --vertex nimmt eine Scheitelpunktnummer ab 1, nicht \"%1\".",
 })
+# Framework: limits of rows, choice lists and symbol-table references.
+DE.setdefault("errors", {}).update({
+    "%1 must be greater than 0": "%1 muss größer als 0 sein",
+    "%1 must be 0 or greater": "%1 muss 0 oder größer sein",
+    "%1 must not be 0": "%1 darf nicht 0 sein",
+    "%1 must be between %2 and %3": "%1 muss zwischen %2 und %3 liegen",
+    "%1 takes one of: %2": "%1 nimmt einen dieser Werte an: %2",
+    "layer": "Layer", "text style": "Textstil", "dimension style": "Bemaßungsstil", "linetype": "Linientyp", "block": "Block",
+    "The object is in no drawing, so it can name no %1.": "Das Objekt gehört zu keiner Zeichnung und kann daher keinen %1 nennen.",
+    'There is no %1 named "%2".': 'Es gibt keinen %1 namens "%2".',
+    "The value is not a %1 of this drawing.": "Der Wert ist kein %1 dieser Zeichnung.",
+    'Area must be an area other than 0, followed by "sq. in." in engineering and architectural units':
+        'Die Fläche muss eine Fläche ungleich 0 sein, in technischen und architektonischen Einheiten gefolgt von "sq. in."',
+})
 
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)

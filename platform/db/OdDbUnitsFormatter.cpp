@@ -110,6 +110,20 @@ double normalized2Pi(double r) {
   return r;
 }
 
+// Whether an angle short of a full turn shows as one at this precision
+// (359.7 degrees as "360" at precision 0): such an angle is shown as 0. An
+// angle of a full turn or more keeps its value.
+bool roundsToFullTurn(double radians, int mode, int prec) {
+  double value = std::fabs(radians), fullTurn = 0, stepsPerUnit = 0;
+  switch (mode) {
+    case kDegMinSec: value *= kRadToDeg, fullTurn = 360, stepsPerUnit = double(dmsStepsPerDegree(prec)); break;
+    case kGrads: value *= kRadToGrad, fullTurn = 400, stepsPerUnit = double(pow10(prec)); break;
+    case kRadians: fullTurn = Oda2PI, stepsPerUnit = double(pow10(prec)); break;
+    default: value *= kRadToDeg, fullTurn = 360, stepsPerUnit = double(pow10(prec)); break;
+  }
+  return value < fullTurn && std::round(value * stepsPerUnit) / stepsPerUnit >= fullTurn;
+}
+
 // Direction (radians from the X axis, counter-clockwise) as a bearing: the
 // acute angle from north or south towards east or west. Exact compass points,
 // and bearings that round to 0 or 90 degrees, show as a single letter.
@@ -475,6 +489,7 @@ OdString OdDbUnitsFormatter::formatAngle(double radians, int aunits, int prec) c
   const int mode = angularMode(aunits);
   const int p = angularPrec(prec);
   if (!std::isfinite(radians)) return nonFinite(radians);
+  if (mode != kSurveyor && roundsToFullTurn(radians, mode, p)) radians = 0;
   switch (mode) {
     case kDegMinSec: {
       const double deg = radians * kRadToDeg;

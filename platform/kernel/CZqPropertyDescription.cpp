@@ -52,6 +52,9 @@ void CZqCustomPropertyContainer::AddDynamic(CZqPropertyDescription* description)
 }
 
 CZqPropertyDescription* CZqCustomPropertyContainer::GetByName(const CZqString& name, const CZqString& category) const {
+  // Keys first: a translated text may happen to equal another row's key.
+  for (CZqPropertyDescription* d : m_rows)
+    if (d->GetNameKey() == name && (category.isEmpty() || d->GetCategoryKey() == category)) return d;
   for (CZqPropertyDescription* d : m_rows)
     if (d->GetName() == name && (category.isEmpty() || d->GetCategory() == category)) return d;
   return nullptr;

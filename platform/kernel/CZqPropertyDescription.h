@@ -89,6 +89,23 @@ class ZQKERNEL_API CZqPropertyDescription {
   virtual ZqGroupActionMethod GetGroupActionMethod() const = 0;
   virtual bool operator==(const CZqPropertyDescription& other) const = 0;
   virtual void SetVisibility(unsigned visibility) = 0;
+
+  // The untranslated category and name the row is known by: lookups,
+  // scripts and the matching of rows across objects use them, whatever the
+  // language; GetCategory and GetName are for display. Without keys of its
+  // own a row is known by its displayed texts.
+  virtual CZqString GetCategoryKey() const { return GetCategory(); }
+  virtual CZqString GetNameKey() const { return GetName(); }
+  virtual void SetKeys(const CZqString& category, const CZqString& name) { (void)category, (void)name; }
+  // A sentence that says which values the row takes ("Radius must be
+  // greater than 0"), for hosts to show when a setter refuses a value
+  // without a message of its own; empty when the row states none.
+  virtual CZqString GetRefusalText() const { return CZqString(); }
+  virtual void SetRefusalText(const CZqString& text) { (void)text; }
+  // The provider's own record of the row, opaque to the host (null when
+  // the provider keeps none).
+  virtual const void* GetRowData() const { return nullptr; }
+  virtual void SetRowData(const void* data) { (void)data; }
 };
 
 class ZQKERNEL_API CZqCustomPropertyDescription : public CZqPropertyDescription {
@@ -133,9 +150,21 @@ class ZQKERNEL_API CZqCustomPropertyDescription : public CZqPropertyDescription 
   // name and editor type.
   bool operator==(const CZqPropertyDescription& other) const override;
   void SetVisibility(unsigned visibility) override { m_visibility = visibility; }
+  CZqString GetCategoryKey() const override { return m_hasKeys ? m_categoryKey : m_category; }
+  CZqString GetNameKey() const override { return m_hasKeys ? m_nameKey : m_name; }
+  void SetKeys(const CZqString& category, const CZqString& name) override {
+    m_categoryKey = category, m_nameKey = name, m_hasKeys = true;
+  }
+  CZqString GetRefusalText() const override { return m_refusal; }
+  void SetRefusalText(const CZqString& text) override { m_refusal = text; }
+  const void* GetRowData() const override { return m_rowData; }
+  void SetRowData(const void* data) override { m_rowData = data; }
 
  private:
   CZqString m_name, m_category, m_description, m_icon, m_darkIcon, m_lightIcon;
+  CZqString m_categoryKey, m_nameKey, m_refusal;
+  bool m_hasKeys = false;
+  const void* m_rowData = nullptr;
   CZqCustomPropertyType m_type;
   bool m_dynamic = false;
   unsigned m_visibility = kZqVisDefault;
@@ -153,7 +182,8 @@ class ZQKERNEL_API CZqPropertiesContainer {
   virtual void Add(CZqPropertyDescription* description) = 0;
   virtual void Add(const OdArray<CZqPropertyDescription*>& list) = 0;
   virtual void AddDynamic(CZqPropertyDescription* description) = 0;
-  // The first row with this (translated) name, optionally in one category.
+  // The first row with this name, optionally in one category: the
+  // untranslated key or the displayed (translated) text.
   virtual CZqPropertyDescription* GetByName(const CZqString& name, const CZqString& category = CZqString()) const = 0;
   virtual int GetCount() const = 0;
   virtual CZqPropertyDescription* GetAt(int index) const = 0;

@@ -81,12 +81,14 @@ std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBit
       if ((vis & requiredBits) != requiredBits) continue;
       if (multi && (vis & kZqVisSingleOnly)) continue;
       if (objectNo == 1) {
-        const QString k = multi ? key(d->GetCategory(), d->GetName()) : QString();
+        const QString k = multi ? key(d->GetCategoryKey(), d->GetNameKey()) : QString();
         if (multi && index.contains(k)) continue;  // a name repeated within one object: the first serves
         if (multi) index.insert(k, entries.size());
         Entry e;
         e.row.category = d->GetCategory();
         e.row.name = d->GetName();
+        e.row.categoryKey = d->GetCategoryKey();
+        e.row.nameKey = d->GetNameKey();
         e.row.type = d->GetType();
         e.row.visibility = vis;
         e.row.readOnly = d->IsReadOnly(o.object.get());
@@ -99,7 +101,7 @@ std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBit
         if (it == categories.end()) categories.push_back(cat);
         entries.push_back(std::move(e));
       } else {
-        auto it = index.find(key(d->GetCategory(), d->GetName()));
+        auto it = index.find(key(d->GetCategoryKey(), d->GetNameKey()));
         if (it == index.end() || entries[*it].seen != objectNo - 1) continue;
         Entry& e = entries[*it];
         e.seen = objectNo;
@@ -136,8 +138,11 @@ const CZqPaletteRow* CZqPropertiesWindowService::FindRow(const std::vector<CZqPa
   const CZqPaletteRow* found = nullptr;
   int matches = 0;
   for (const CZqPaletteRow& r : rows) {
-    if (r.name.qstring().compare(rowName, Qt::CaseInsensitive) != 0) continue;
-    if (!category.isEmpty() && r.category.qstring().compare(category, Qt::CaseInsensitive) != 0) continue;
+    auto is = [](const CZqString& text, const CZqString& key, const QString& typed) {
+      return key.qstring().compare(typed, Qt::CaseInsensitive) == 0 || text.qstring().compare(typed, Qt::CaseInsensitive) == 0;
+    };
+    if (!is(r.name, r.nameKey, rowName)) continue;
+    if (!category.isEmpty() && !is(r.category, r.categoryKey, category)) continue;
     if (!found) found = &r;
     ++matches;
   }
@@ -253,6 +258,7 @@ std::vector<CZqEditResult> CZqPropertiesWindowService::SetValue(const CZqString&
       result.code = d->SetValue(o.object.get(), value, index);
       if (result.code == kZqSetRefused) {
         if (services->Messages().size() > before) result.message = services->Messages().back().text;
+        if (result.message.isEmpty()) result.message = d->GetRefusalText();
         if (result.message.isEmpty()) result.message = refusalSentence(*d, o.object.get(), value, index);
       }
     }

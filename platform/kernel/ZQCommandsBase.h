@@ -29,8 +29,10 @@ class ZQKERNEL_API CZqCommand : public OdEdCommand {
 // One row of the palette for a selection: the rows that every selected
 // object has (by category and name), in the order of the first object.
 struct ZQKERNEL_API CZqPaletteRow {
-  CZqString category;
+  CZqString category;           // as displayed (translated)
   CZqString name;
+  CZqString categoryKey;        // untranslated: what lookups and scripts use
+  CZqString nameKey;
   CZqCustomPropertyType type;
   unsigned visibility = 0;
   bool readOnly = false;        // read-only for at least one object
@@ -80,8 +82,9 @@ class ZQKERNEL_API CZqPropertiesWindowService {
   // palette bit; with more than one object, rows marked single-only are
   // left out. Rows are grouped by category in order of first appearance.
   std::vector<CZqPaletteRow> Rows(unsigned requiredBits = kZqVisPalette) const;
-  // Finds a row by translated name, case-insensitively; "Category/Name"
-  // picks one of two rows of the same name. Null with a reason when none
+  // Finds a row by its untranslated name or its displayed name,
+  // case-insensitively; "Category/Name" picks one of two rows of the same
+  // name. Null with a reason when none
   // or more than one row matches.
   const CZqPaletteRow* FindRow(const std::vector<CZqPaletteRow>& rows, const QString& name, QString* why = nullptr) const;
   // Applies value to the row on every selected object, at `index` (empty:
@@ -89,7 +92,9 @@ class ZQKERNEL_API CZqPropertiesWindowService {
   // called. Refused, with a sentence in the result's message, are: a
   // read-only row, an object on a locked layer (unless allowed), a number
   // that is not finite, and whatever the setter refuses; where a setter
-  // refuses without a message box, the sentence says what the row needs.
+  // refuses without a message box, the sentence is the row's own refusal
+  // text or else says what the row needs. category and name are the row's
+  // keys (its displayed texts are understood as well).
   std::vector<CZqEditResult> SetValue(const CZqString& category, const CZqString& name, const CZqVariant& value,
                                       const CZqVariant& index = CZqVariant());
   // Turns what a user typed into the value a row's setter takes, decided by

@@ -352,6 +352,7 @@ const OdArray<CZqPropertyDescription*>& CZqEntityPE::GeneralRows() {
       auto* d = CZqCustomPropertyDescription::CreateStatic();
       d->SetCategory(QCoreApplication::translate("property_groups", "General"));
       d->SetName(QCoreApplication::translate("property_types", r.name));
+      d->SetKeys(CZqString("General"), CZqString(r.name));
       d->SetType(CZqCustomPropertyType(r.type, r.guid ? CZqString(r.guid) : CZqString()));
       d->PutGetMethod(r.get);
       d->PutSetMethod(r.set);

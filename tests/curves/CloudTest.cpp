@@ -165,6 +165,44 @@ TEST_F(CloudTest, RadiusOfZeroOrLessIsRefusedWithItsMessage) {
   EXPECT_EQ(get(id, "Cloud Settings", "Shape").GetString().qstring(), "Polygon");
 }
 
+// Items of the cloud data this module does not know (written by a later
+// version of the cloud command, or by another program) survive a radius
+// edit in their places; only the radius changes.
+TEST_F(CloudTest, RadiusEditKeepsEveryOtherCloudItemInOrder) {
+  OdDbPolylinePtr base = rectangle(12, 8);
+  const OdDbObjectId id = addCloud(base.get(), settings("Rectangular", 2));
+  {
+    OdDbPolylinePtr pl = OdDbPolyline::cast(id.openObject(OdDb::kForWrite).get());
+    OdResBufPtr chain = pl->xData(OdString(CZqCloudBase::kAppName));
+    OdResBuf* tail = chain.get();
+    while (tail->next()) tail = tail->next();
+    tail = tail->setNext(OdResBuf::newRb(OdResBuf::kDxfXdAsciiString, OdString("reviewed by QA")).get());
+    tail = tail->setNext(OdResBuf::newRb(OdResBuf::kDxfXdInteger16, 7).get());
+    tail->setNext(OdResBuf::newRb(OdResBuf::kDxfXdReal, 42.5).get());
+    pl->setXData(chain.get());
+  }
+  auto items = [&] {
+    std::vector<std::pair<int, QString>> out;
+    OdDbObjectPtr obj = id.openObject();
+    for (OdResBufPtr p = obj->xData(OdString(CZqCloudBase::kAppName)); p; p = p->nextPtr()) {
+      QString value;
+      switch (p->restype()) {
+        case OdResBuf::kDxfXdReal: value = QString::number(p->getDouble()); break;
+        case OdResBuf::kDxfXdInteger16: value = QString::number(p->getInt16()); break;
+        default: value = p->getString().qstring();
+      }
+      out.emplace_back(p->restype(), value);
+    }
+    return out;
+  };
+  std::vector<std::pair<int, QString>> expected = items();
+  ASSERT_EQ(expected.size(), 6u);  // application, style, radius, and the three added
+  ASSERT_EQ(set(id, "Cloud Settings", "Radius", CZqVariant(1.5, true)), 5100);
+  expected[2].second = "1.5";
+  EXPECT_EQ(items(), expected);
+  EXPECT_EQ(get(id, "Cloud Settings", "Radius").GetDouble(), 1.5);
+}
+
 struct BaseCase {
   const char* style;
   std::function<OdDbCurvePtr()> base;

@@ -516,4 +516,19 @@ TEST_P(PolylineCounterTest, CheckCounterStopsTheVertexList) {
 
 INSTANTIATE_TEST_SUITE_P(Limits, PolylineCounterTest, ::testing::Values(-1, 0, 1, 7, 50, 80));
 
+// The listing asks the counter once per vertex line it is about to print:
+// n questions for n vertices, and one more only when it is told to stop.
+TEST_F(PolylineTest, CheckCounterIsAskedOncePerVertexLine) {
+  const struct { int vertices, limit, calls; } cases[] = {{1, -1, 1}, {5, -1, 5}, {50, -1, 50}, {50, 7, 8}, {5, 0, 1}};
+  for (const auto& c : cases) {
+    std::vector<ZqRefVertex> v;
+    for (int i = 0; i < c.vertices; ++i) v.push_back({double(i), double(i % 3), 0});
+    const OdDbObjectId id = addPolyline(v);
+    OdDbObjectPtr obj = id.openObject();
+    CZqPrintInfoContext ctx(db.get(), false, c.limit);
+    zqInfoFor(obj.get())->PrintObjectInfo(obj.get(), &ctx);
+    EXPECT_EQ(ctx.CounterCalls(), c.calls) << c.vertices << " vertices, limit " << c.limit;
+  }
+}
+
 }  // namespace

@@ -82,7 +82,14 @@ INSTANTIATE_TEST_SUITE_P(AllModes, AngleFormat, testing::Values(
     FormatCase{300, 4, 4, 0, 0, "S 30d0'0\" E"}, FormatCase{60.25, 4, 3, 0, 0, "N 29d45'0\" E"},
     FormatCase{0, 4, 2, 0, 0, "E"}, FormatCase{90, 4, 2, 0, 0, "N"}, FormatCase{180, 4, 2, 0, 0, "W"},
     FormatCase{270, 4, 2, 0, 0, "S"}, FormatCase{-90, 4, 2, 0, 0, "S"}, FormatCase{450, 4, 2, 0, 0, "N"},
-    FormatCase{89.9999, 4, 2, 0, 0, "N"}, FormatCase{0.0001, 4, 2, 0, 0, "E"}, FormatCase{45.5, 4, 2, 1, 0, "N44d30'E"}));
+    FormatCase{89.9999, 4, 2, 0, 0, "N"}, FormatCase{0.0001, 4, 2, 0, 0, "E"}, FormatCase{45.5, 4, 2, 1, 0, "N44d30'E"},
+    // Short of a full turn but shown as one: 0 in every angle format. A
+    // full turn or more keeps its value.
+    FormatCase{359.7, 0, 0, 0, 0, "0"}, FormatCase{-359.7, 0, 0, 0, 0, "0"}, FormatCase{359.996, 0, 2, 0, 0, "0.00"},
+    FormatCase{359.994, 0, 2, 0, 0, "359.99"}, FormatCase{360, 0, 0, 0, 0, "360"},
+    FormatCase{359.7, 1, 0, 0, 0, "0d"}, FormatCase{359.99999, 1, 4, 0, 0, "0d0'0\""},
+    FormatCase{359.8, 2, 0, 0, 0, "0g"}, FormatCase{359.999, 3, 4, 0, 0, "0.0000r"},
+    FormatCase{359.99, 3, 4, 0, 0, "6.2830r"}));
 
 TEST(UnitsFormatter, AreasAreBareNumbers) {
   const struct { double v; int mode, prec; const char* expected; } cases[] = {
@@ -267,6 +274,7 @@ TEST(UnitsFormatter, AngleRoundTripsAtDisplayPrecision) {
           const double unit = mode == 2 ? 0.9 : mode == 3 ? 180 / OdaPI : 1;
           const double step = (mode == 1 || mode == 4) ? dms : std::pow(10.0, -prec) * unit;
           double expected = std::round(deg / step) * step;
+          if (std::fabs(deg) < 360 && std::fabs(expected) >= 360 && mode != 4) expected = 0;  // shown as 0, not 360
           if (mode == 4) {  // a bearing: a direction in [0, 360) within half a step
             expected = std::fmod(deg + 360.0, 360.0);
             EXPECT_LE(std::fabs(std::remainder(back / kD - expected, 360.0)), step / 2 + 1e-9);
