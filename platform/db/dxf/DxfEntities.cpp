@@ -329,6 +329,10 @@ constexpr ClassMapping kEntities[] = {
     {"POINT",      &OdDbPoint::desc,       0,    &fieldsOf<OdDbPoint, pointFields>,                 false},
     {"RAY",        &OdDbRay::desc,         1012, &fieldsOf<OdDbRay, rayFields>,                     false},
     {"XLINE",      &OdDbXline::desc,       1012, &fieldsOf<OdDbXline, xlineFields>,                 false},
+    {"TEXT",       &OdDbText::desc,        0,    &fieldsOf<OdDbText, textFields>,                   false},
+    {"ATTDEF",     &OdDbAttributeDefinition::desc, 0, &fieldsOf<OdDbAttributeDefinition, attdefFields>, false},
+    {"ATTRIB",     &OdDbAttribute::desc,   0,    &fieldsOf<OdDbAttribute, attribFields>,            false},
+    {"MTEXT",      &OdDbMText::desc,       1012, &fieldsOf<OdDbMText, mtextFields>,                 false},
 };
 // clang-format on
 

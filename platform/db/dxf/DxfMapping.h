@@ -37,6 +37,11 @@ class OdDb2dPolyline;
 class OdDbPoint;
 class OdDbRay;
 class OdDbXline;
+class OdDbDimStyleTableRecord;
+class OdDbText;
+class OdDbAttribute;
+class OdDbAttributeDefinition;
+class OdDbMText;
 
 namespace OdDxf::mapping {
 
@@ -377,6 +382,13 @@ void polyline2dFields(Fields<OdDb2dPolyline>& f);
 void pointFields(Fields<OdDbPoint>& f);
 void rayFields(Fields<OdDbRay>& f);
 void xlineFields(Fields<OdDbXline>& f);
+// Texts (DxfText.cpp).
+void textFields(Fields<OdDbText>& f);
+void attdefFields(Fields<OdDbAttributeDefinition>& f);
+void attribFields(Fields<OdDbAttribute>& f);
+void mtextFields(Fields<OdDbMText>& f);
+// DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
+void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 
 // Entities whose data the platform models; the rest keep their common
 // properties only.
