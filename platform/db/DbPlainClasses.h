@@ -16,6 +16,7 @@
 #include "DbMText.h"
 #include "DbSymbolTable.h"
 #include "DbDimStyle.h"
+#include "DbDimension.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

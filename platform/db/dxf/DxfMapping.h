@@ -42,6 +42,7 @@ class OdDbText;
 class OdDbAttribute;
 class OdDbAttributeDefinition;
 class OdDbMText;
+class OdDbDimension;
 
 namespace OdDxf::mapping {
 
@@ -370,6 +371,7 @@ struct ClassMapping {
   int minRelease;            // oldest release that has the record type (0: all)
   FieldsFn fields;           // the class's own fields (after the common ones)
   bool sequence = false;     // followed by records of its own up to SEQEND (POLYLINE)
+  bool partial = false;      // only some of the class's data is mapped: new objects cannot be written
 };
 
 // The fields of the classes whose data is mapped (DxfCurves.cpp).
@@ -387,6 +389,8 @@ void textFields(Fields<OdDbText>& f);
 void attdefFields(Fields<OdDbAttributeDefinition>& f);
 void attribFields(Fields<OdDbAttribute>& f);
 void mtextFields(Fields<OdDbMText>& f);
+// What every dimension kind has: its style (DxfText.cpp).
+void dimensionFields(Fields<OdDbDimension>& f);
 // DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
 void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 

@@ -1,4 +1,4 @@
-// TEXT, ATTDEF, ATTRIB and MTEXT: each class's fields as a table (see
+// TEXT, ATTDEF, ATTRIB, MTEXT and the dimension style of dimensions: each class's fields as a table (see
 // DxfFields.h), with the code that does not fit one next to it: the
 // subclass jumps of the text records, MTEXT's contents in 250-character
 // pieces (3 ... 3 1), its direction (11, or a rotation 50 in older writers'
@@ -74,6 +74,11 @@ constexpr Field<M> kMTextSpacingRows[] = {
 // After the background colour.
 constexpr Field<M> kMTextFillRows[] = {
     {45,  Kind::Real,     member<M, &M::getBackgroundScaleFactor, &M::setBackgroundScaleFactor>(), 1.5, Opt::Optional},
+};
+
+using N = OdDbDimension;
+constexpr Field<N> kDimensionRows[] = {
+    {3,   Kind::Name,     member<N, &N::dimensionStyle, &N::setDimensionStyle>(),         0,   Opt::Optional, &Context::dimstyles, "Standard"},
 };
 // clang-format on
 
@@ -205,6 +210,11 @@ void attribFields(Fields<OdDbAttribute>& f) {
   mapFields(text, kTextRows, kTextNormal);
   f.subclass("AcDbAttribute");
   mapFields(f, kAttribRows);
+}
+
+void dimensionFields(Fields<OdDbDimension>& f) {
+  f.subclass("AcDbDimension");
+  mapFields(f, kDimensionRows);
 }
 
 void mtextFields(Fields<OdDbMText>& f) {

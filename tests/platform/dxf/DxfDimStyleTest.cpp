@@ -4,6 +4,7 @@
 // and written.
 #include "DxfDatabaseSupport.h"
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <QtMath>
 
@@ -287,6 +288,84 @@ TEST(DxfDimStyleEdit, EditChangesOnlyTheStyleRecord) {
       EXPECT_EQ(v.value(QStringLiteral("dimscale")).toDouble(), 2.0);
       EXPECT_EQ(v.value(QStringLiteral("dimtxt")).toDouble(), 2.5);
     }
+}
+
+// A dimension's style and variables: the style ezdxf names, each variable
+// the override or else the style's value; a new style is written to group 3
+// alone; the effective values go to a scratch record and back.
+TEST(DxfDimension, StyleAndEffectiveVariables) {
+  if (!haveEzdxf()) GTEST_SKIP() << "ezdxf not installed";
+  odDbInitialize();
+  const QString path = samplePath(QStringLiteral("libredwg__test__test-data__2000__TS1.dxf"));
+  const QByteArray bytes = readBytes(path);
+  OdDbDatabasePtr db = load(bytes);
+  ASSERT_TRUE(db);
+  bool ok = false;
+  const QJsonArray dims = ezdxfJson(QStringLiteral(R"(
+import ezdxf, sys, json
+doc = ezdxf.readfile(sys.argv[1])
+print(json.dumps([[d.dxf.handle, d.dxf.dimstyle] for d in doc.entitydb.values() if d.dxftype() == 'DIMENSION']))
+)"), {path}, &ok).toArray();
+  ASSERT_TRUE(ok);
+  ASSERT_EQ(dims.size(), 6);
+  for (const QJsonValue& v : dims) {
+    OdDbObjectPtr o = db->getOdDbObjectId(OdDbHandle(OdString(v[0].toString()))).openObject();
+    auto* d = OdDbDimension::cast(o).get();
+    ASSERT_TRUE(d) << v[0].toString().toStdString();
+    OdDbObjectPtr st = d->dimensionStyle().openObject();
+    auto* style = OdDbDimStyleTableRecord::cast(st).get();
+    ASSERT_TRUE(style);
+    EXPECT_EQ(style->getName().qstring(), v[1].toString());
+    EXPECT_EQ(d->dimtxt(), style->dimtxt());
+    EXPECT_EQ(d->dimupt(), v[0].toString() == QLatin1String("1EA") || v[0].toString() == QLatin1String("1FC") || style->dimupt());
+  }
+
+  const OdDbObjectId dimId = db->getOdDbObjectId(OdDbHandle(OdString("1EA")));
+  OdDbObjectId annotative;
+  {
+    OdDbObjectPtr t = db->getDimStyleTableId().openObject();
+    annotative = static_cast<OdDbSymbolTable*>(t.get())->getAt("Annotative");
+  }
+  ASSERT_FALSE(annotative.isNull());
+  {
+    OdDbObjectPtr o = dimId.openObject(OdDb::kForWrite);
+    auto* d = OdDbDimension::cast(o).get();
+    OdDbDimStyleTableRecordPtr scratch = OdDbDimStyleTableRecord::createObject();
+    d->getDimstyleData(scratch.get());
+    EXPECT_TRUE(scratch->dimupt());
+    scratch->setDimtxt(d->dimtxt() * 2);
+    d->setDimstyleData(scratch.get());
+    std::vector<dv::Id> ids;
+    for (const auto& e : OdDbDimStyleOverrides::get(d)) ids.push_back(e.id);
+    EXPECT_EQ(ids, (std::vector<dv::Id>{dv::k_dimupt, dv::k_dimtxt}));
+    OdDbDimStyleOverrides::remove(d, dv::k_dimtxt);
+    d->setDimensionStyle(annotative);
+    EXPECT_THROW(d->setDimensionStyle(db->getTEXTSTYLE()), OdError);
+  }
+  const QByteArray out = save(db.get());
+  EXPECT_EQ(changedRecords(bytes, out), QStringList{QStringLiteral("#1EA")});
+  const QString edited = QDir::temp().filePath(QStringLiteral("zq_dimstyle_%1.dxf").arg(QCoreApplication::applicationPid()));
+  QFile f(edited);
+  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write(out);
+  f.close();
+  const QJsonArray after = ezdxfJson(QStringLiteral(R"(
+import ezdxf, sys, json
+print(json.dumps([ezdxf.readfile(sys.argv[1]).entitydb['1EA'].dxf.dimstyle]))
+)"), {edited}, &ok).toArray();
+  QFile::remove(edited);
+  ASSERT_TRUE(ok);
+  EXPECT_EQ(after[0].toString(), QStringLiteral("Annotative"));
+
+  // A new dimension cannot be written yet: its geometry is not modelled.
+  OdDbRotatedDimensionPtr dim = OdDbRotatedDimension::createObject();
+  {
+    OdDbObjectPtr ms = db->getModelSpaceId().openObject(OdDb::kForWrite);
+    static_cast<OdDbBlockTableRecord*>(ms.get())->appendOdDbEntity(dim.get());
+  }
+  QString error;
+  EXPECT_TRUE(OdDxf::writeDrawing(db.get(), &error).isEmpty());
+  EXPECT_TRUE(error.contains(QStringLiteral("cannot be written"))) << error.toStdString();
 }
 
 }  // namespace
