@@ -368,4 +368,26 @@ print(json.dumps([ezdxf.readfile(sys.argv[1]).entitydb['1EA'].dxf.dimstyle]))
   EXPECT_TRUE(error.contains(QStringLiteral("cannot be written"))) << error.toStdString();
 }
 
+// A variable the file's release has no group code for is refused when
+// saving, with a sentence naming it; nothing is written.
+TEST(DxfDimStyleEdit, VariableTooNewForTheReleaseIsRefused) {
+  odDbInitialize();
+  const QByteArray bytes = readBytes(samplePath(QStringLiteral("libredwg__test__test-data__2000__TS1.dxf")));  // AC1015
+  OdDbDatabasePtr db = load(bytes);
+  ASSERT_TRUE(db);
+  {
+    OdDbObjectPtr s = db->getDIMSTYLE().openObject(OdDb::kForWrite);
+    OdDbDimStyleTableRecord::cast(s)->setDimfxl(3.0);  // came with AC1021
+  }
+  QString error;
+  EXPECT_TRUE(OdDxf::writeDrawing(db.get(), &error).isEmpty());
+  EXPECT_TRUE(error.contains(QStringLiteral("DIMFXL cannot be written to release AC1015"))) << error.toStdString();
+  // Set back, the drawing saves as it was read.
+  {
+    OdDbObjectPtr s = db->getDIMSTYLE().openObject(OdDb::kForWrite);
+    OdDbDimStyleTableRecord::cast(s)->setDimfxl(1.0);
+  }
+  EXPECT_EQ(save(db.get()), bytes);
+}
+
 }  // namespace
