@@ -6,6 +6,7 @@
 #include "DbSymbolTable.h"
 
 #include <variant>
+#include <vector>
 
 namespace OdDbDimVar {
 

@@ -6,9 +6,10 @@
 // markers, repeated groups, values that hold together - is code, next to
 // the table.
 //
-//   constexpr Field<OdDbText> kRows[] = {
-//   //  code kind          member                                      default opt
-//     {39,  Kind::Real,   member<&OdDbText::thickness, &OdDbText::setThickness>(), 0, Opt::Optional},
+//   using T = OdDbText;
+//   constexpr Field<T> kRows[] = {
+//   //  code kind         member                                             default opt
+//     {39,  Kind::Real,  member<T, &T::thickness, &T::setThickness>(),     0,      Opt::Optional},
 //     ...
 //   };
 //   mapFields(f, kRows);
