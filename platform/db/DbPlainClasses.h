@@ -12,7 +12,11 @@
 #include "DbPoint.h"
 #include "DbRay.h"
 #include "DbXline.h"
+#include "DbText.h"
+#include "DbMText.h"
 #include "DbSymbolTable.h"
+#include "DbDimStyle.h"
+#include "DbDimension.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

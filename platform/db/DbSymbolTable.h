@@ -145,15 +145,8 @@ class DB_API OdDbTextStyleTableRecord : public OdDbSymbolTableRecord {
 };
 using OdDbTextStyleTableRecordPtr = OdSmartPtr<OdDbTextStyleTableRecord>;
 
-// Dimension styles keep their variables by DXF group code until the
-// dimension providers model them.
-class DB_API OdDbDimStyleTableRecord : public OdDbSymbolTableRecord {
-  ODRX_DECLARE_MEMBERS(OdDbDimStyleTableRecord);
-
- public:
-  static OdSmartPtr<OdDbDimStyleTableRecord> createObject();
-};
-using OdDbDimStyleTableRecordPtr = OdSmartPtr<OdDbDimStyleTableRecord>;
+// Dimension style records: DbDimStyle.h.
+class OdDbDimStyleTableRecord;
 
 class DB_API OdDbRegAppTableRecord : public OdDbSymbolTableRecord {
   ODRX_DECLARE_MEMBERS(OdDbRegAppTableRecord);

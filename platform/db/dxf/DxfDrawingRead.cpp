@@ -464,8 +464,12 @@ void Reader::run() {
   // Linetypes first: layers name them.
   for (int s = 0; s < f.sections().size(); ++s)
     if (section(s).name == "TABLES") readTables(s, [](int k) { return k == 2; });
+  // Dimension styles last: they refer to text styles, blocks and linetypes
+  // by handle.
   for (int s = 0; s < f.sections().size(); ++s)
-    if (section(s).name == "TABLES") readTables(s, [](int k) { return k != 2; });
+    if (section(s).name == "TABLES") readTables(s, [](int k) { return k != 2 && k != 4; });
+  for (int s = 0; s < f.sections().size(); ++s)
+    if (section(s).name == "TABLES") readTables(s, [](int k) { return k == 4; });
   ensureTables();
   m_ctx.byLayer = OdDbObjectId();  // ByLayer may have been made just now
   for (int s = 0; s < f.sections().size(); ++s)

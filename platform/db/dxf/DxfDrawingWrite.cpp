@@ -207,7 +207,7 @@ QList<Record> Writer::createEntity(const OdDbObjectId& id, const OdDbObjectId& b
   auto* e = static_cast<OdDbEntity*>(obj.get());
   const ClassMapping* m = entityMapping(e->isA());
   const QString handle = id.getHandle().ascii().qstring();
-  if (!m)
+  if (!m || m->partial)
     throw MapError{QStringLiteral("the new %1 (handle %2) cannot be written: its data is not modelled")
                        .arg(e->isA()->name().qstring(), handle)};
   if (m_ctx.release && m_ctx.release < m->minRelease)

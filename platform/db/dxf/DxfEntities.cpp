@@ -329,6 +329,20 @@ constexpr ClassMapping kEntities[] = {
     {"POINT",      &OdDbPoint::desc,       0,    &fieldsOf<OdDbPoint, pointFields>,                 false},
     {"RAY",        &OdDbRay::desc,         1012, &fieldsOf<OdDbRay, rayFields>,                     false},
     {"XLINE",      &OdDbXline::desc,       1012, &fieldsOf<OdDbXline, xlineFields>,                 false},
+    {"TEXT",       &OdDbText::desc,        0,    &fieldsOf<OdDbText, textFields>,                   false},
+    {"ATTDEF",     &OdDbAttributeDefinition::desc, 0, &fieldsOf<OdDbAttributeDefinition, attdefFields>, false},
+    {"ATTRIB",     &OdDbAttribute::desc,   0,    &fieldsOf<OdDbAttribute, attribFields>,            false},
+    {"MTEXT",      &OdDbMText::desc,       1012, &fieldsOf<OdDbMText, mtextFields>,                 false},
+    // Dimensions: only the style is mapped yet.
+    {"DIMENSION",  &OdDbRotatedDimension::desc,       0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
+    {"DIMENSION",  &OdDbAlignedDimension::desc,       0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
+    {"DIMENSION",  &OdDb2LineAngularDimension::desc,  0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
+    {"DIMENSION",  &OdDb3PointAngularDimension::desc, 0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
+    {"DIMENSION",  &OdDbDiametricDimension::desc,     0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
+    {"DIMENSION",  &OdDbRadialDimension::desc,        0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
+    {"DIMENSION",  &OdDbOrdinateDimension::desc,      0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
+    {"ARC_DIMENSION", &OdDbArcDimension::desc,        0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
+    {"LARGE_RADIAL_DIMENSION", &OdDbRadialDimensionLarge::desc, 0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
 };
 // clang-format on
 

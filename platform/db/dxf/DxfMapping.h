@@ -37,6 +37,12 @@ class OdDb2dPolyline;
 class OdDbPoint;
 class OdDbRay;
 class OdDbXline;
+class OdDbDimStyleTableRecord;
+class OdDbText;
+class OdDbAttribute;
+class OdDbAttributeDefinition;
+class OdDbMText;
+class OdDbDimension;
 
 namespace OdDxf::mapping {
 
@@ -365,6 +371,7 @@ struct ClassMapping {
   int minRelease;            // oldest release that has the record type (0: all)
   FieldsFn fields;           // the class's own fields (after the common ones)
   bool sequence = false;     // followed by records of its own up to SEQEND (POLYLINE)
+  bool partial = false;      // only some of the class's data is mapped: new objects cannot be written
 };
 
 // The fields of the classes whose data is mapped (DxfCurves.cpp).
@@ -377,6 +384,15 @@ void polyline2dFields(Fields<OdDb2dPolyline>& f);
 void pointFields(Fields<OdDbPoint>& f);
 void rayFields(Fields<OdDbRay>& f);
 void xlineFields(Fields<OdDbXline>& f);
+// Texts (DxfText.cpp).
+void textFields(Fields<OdDbText>& f);
+void attdefFields(Fields<OdDbAttributeDefinition>& f);
+void attribFields(Fields<OdDbAttribute>& f);
+void mtextFields(Fields<OdDbMText>& f);
+// What every dimension kind has: its style (DxfText.cpp).
+void dimensionFields(Fields<OdDbDimension>& f);
+// DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
+void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 
 // Entities whose data the platform models; the rest keep their common
 // properties only.

@@ -90,7 +90,8 @@ void RecordIO::subclass(QByteArrayView marker, int occurrence) {
     if (t.code() == 100 && t.trimmed() == marker && ++seen == occurrence) {
       m_begin = i + 1;
       m_end = m_begin;
-      while (m_end < x && m_rec.at(m_end).code() != 100) ++m_end;
+      // A 101 starts an embedded object, whose tags are no field of the class.
+      while (m_end < x && m_rec.at(m_end).code() != 100 && m_rec.at(m_end).code() != 101) ++m_end;
       m_cursor = m_begin;
       return;
     }

@@ -144,12 +144,6 @@ void textStyleFields(Fields<OdDbTextStyleTableRecord>& f) {
   f.string(4, &S::bigFontFileName, &S::setBigFontFileName);
 }
 
-void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f) {
-  f.subclass("AcDbDimStyleTableRecord");
-  nameField(f);
-  if (f.io().mode() == RecordIO::Create) f.io().putInteger(70, 0);
-}
-
 void regAppFields(Fields<OdDbRegAppTableRecord>& f) {
   f.subclass("AcDbRegAppTableRecord");
   nameField(f);

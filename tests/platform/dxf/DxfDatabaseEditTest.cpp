@@ -560,8 +560,8 @@ TEST(DxfDatabaseSave, FailedSaveLeavesTheOldFileWhole) {
   EXPECT_FALSE(line.openObject()->isModified());
   const QByteArray saved = readBytes(target);
   OdDbObjectPtr ms = db->getModelSpaceId().openObject(OdDb::kForWrite);
-  auto text = OdDbText::createObject();
-  const OdDbObjectId textId = static_cast<OdDbBlockTableRecord*>(ms.get())->appendOdDbEntity(text.get());
+  auto face = OdDbFace::createObject();
+  const OdDbObjectId textId = static_cast<OdDbBlockTableRecord*>(ms.get())->appendOdDbEntity(face.get());
   ms.release();
   EXPECT_FALSE(OdDxf::writeDrawing(db.get(), target, error));
   EXPECT_TRUE(error.contains(QStringLiteral("cannot be written"))) << error.toStdString();
