@@ -80,7 +80,7 @@ std::vector<ZqAttachment> CZqPropertiesModule::attachments() {
 #define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Step, Info, InfoPosition)                    \
   rows.push_back({{Row, ZqAttachStep::k##Step, true, InfoPosition},                                        \
                   drawingClassOf(RegisteredIndex, DrawingClass::desc()), &m_##Provider, &Provider::desc, \
-                  &m_##Info});
+                  m_info##Row.get()});
 #include "ZqProviders.def"
   for (ZqAttachment& a : rows) a.table.hasInfo = a.info != nullptr;
   return rows;

@@ -17,6 +17,20 @@
 
 struct ZqAttachment;
 
+// The information provider of a row: a member object, or none for the
+// rows whose Info column is ZQ_NO_INFO.
+struct ZqNoInfo {};
+#define ZQ_NO_INFO ZqNoInfo
+template <class Info>
+struct ZqInfoMember {
+  OdStaticRxObject<Info> object;
+  OdRxObject* get() { return &object; }
+};
+template <>
+struct ZqInfoMember<ZqNoInfo> {
+  OdRxObject* get() { return nullptr; }
+};
+
 class CZqPropertiesModule : public OdRxModule {
  public:
   CZqPropertiesModule();
@@ -31,7 +45,7 @@ class CZqPropertiesModule : public OdRxModule {
 
 #define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Step, Info, InfoPosition) OdStaticRxObject<Provider> m_##Provider;
 #include "ZqProviders.def"
-#define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Step, Info, InfoPosition) OdStaticRxObject<Info> m_##Info;
+#define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Step, Info, InfoPosition) ZqInfoMember<Info> m_info##Row;
 #include "ZqProviders.def"
   OdStaticRxObject<CZqCommandMinusProperties> m_command;
 };

@@ -113,9 +113,12 @@ std::map<QString, RowState> rowsOf(const OdDbObjectId& id) {
   auto rows = zqRowsOf(obj.get());
   for (int i = 0; rows && i < rows->GetCount(); ++i) {
     const CZqPropertyDescription* d = rows->GetAt(i);
+    CZqVariant value = d->GetValue(obj.get(), CZqVariant());
+    // An id outlives no drawing: it is kept as its handle (the same in both runs).
+    if (value.GetType() == CZqVariant::kVtId) value = CZqVariant(int32_t(value.GetId().getHandle()));
     out[d->GetCategoryKey().qstring() + "/" + d->GetNameKey().qstring()] =
         RowState{d->GetCategory().qstring(), d->GetName().qstring(), d->GetType(), d->IsReadOnly(obj.get()),
-                 d->GetVisibility(),          d->GetValue(obj.get(), CZqVariant()), d->GetDarkIcon().qstring()};
+                 d->GetVisibility(),          value,              d->GetDarkIcon().qstring()};
   }
   return out;
 }
@@ -192,7 +195,6 @@ void expectSameValue(const CZqVariant& a, const CZqVariant& b, const std::string
       }
       break;
     }
-    case CZqVariant::kVtId: EXPECT_EQ(a.GetId().getHandle(), b.GetId().getHandle()) << where; break;
     default: EXPECT_EQ(a, b) << where;
   }
 }
