@@ -28,6 +28,9 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <memory>
+#include <vector>
+
 namespace OdDxf {
 
 // Value type of a group code, from the group code ranges of the DXF reference.
@@ -163,12 +166,31 @@ class DB_API Record {
 
  private:
   friend struct detail::Access;
+  // Bytes of edited and inserted tags. They are written once into chunks
+  // that never move or change, so copies of a record can share them; a
+  // chunk's free tail is shared too (each copy appends after what any of
+  // them wrote).
+  struct Chunk {
+    std::unique_ptr<char[]> data;
+    qsizetype size = 0;
+    qsizetype used = 0;
+  };
   bool store(int index, QByteArrayView value, bool keepPrefix);
   bool storeNumber(int index, const QByteArray& text, const char* binary, int binarySize);
+  // Copies `n` bytes into the chunks and returns where they now are.
+  const char* keep(const char* bytes, qsizetype n);
+  // A tag's own bytes are no longer used: they count as waste.
+  void dropped(const Tag& t);
+  // Once the waste outweighs the live bytes and the record's size, copies
+  // the live bytes into a fresh chunk; so the copying costs no more than
+  // the edits that made the waste.
+  void compactIfWasteful();
 
   QList<Tag> m_tags;
   QByteArray m_source;       // keeps the file buffer alive for the tags' views
-  QList<QByteArray> m_own;   // bytes of edited and inserted tags
+  std::vector<std::shared_ptr<Chunk>> m_chunks;
+  qsizetype m_liveBytes = 0;  // bytes of the edited tags
+  qsizetype m_deadBytes = 0;  // bytes in the chunks no tag of this record uses
   Format m_format;
 };
 
