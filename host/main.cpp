@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <csignal>
 #include <cstdio>
 
 namespace {
@@ -89,6 +90,11 @@ int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArra
 }  // namespace
 
 int main(int argc, char** argv) {
+#ifdef SIGXFSZ
+  // A file size limit (ulimit -f) must make a save fail with its reason,
+  // not kill the program halfway.
+  std::signal(SIGXFSZ, SIG_IGN);
+#endif
   QCoreApplication app(argc, argv);
   QCoreApplication::setApplicationName("zqprops");
   QTextStream out(stdout), err(stderr);
@@ -108,7 +114,9 @@ int main(int argc, char** argv) {
   const QCommandLineOption output({"o", "output"}, "Save the drawing to OUT.", "OUT");
   const QCommandLineOption lang("lang", "Use the translation catalog of this language.", "CODE");
   const QCommandLineOption ucs("ucs", "List information in the current UCS.");
-  parser.addOptions({list, info, handle, json, set, script, output, lang, ucs});
+  const QCommandLineOption strict(
+      "strict", QCoreApplication::translate("zqprops", "Refuse a drawing that reading would warn about (a coordinate that is not a number, a repair)."));
+  parser.addOptions({list, info, handle, json, set, script, output, lang, ucs, strict});
   if (!parser.parse(app.arguments())) {
     err << "zqprops: " << parser.errorText() << "\n";
     return kUsage;
@@ -136,7 +144,7 @@ int main(int argc, char** argv) {
   const QString inputPath = positional.front();
   QString error;
   QStringList warnings;
-  OdDbDatabasePtr db = OdDxf::readDrawing(inputPath, error, &warnings);
+  OdDbDatabasePtr db = OdDxf::readDrawing(inputPath, error, &warnings, {.strict = parser.isSet(strict)});
   if (!db) {
     err << "zqprops: " << inputPath << ": " << error << "\n";
     return kUsage;
