@@ -197,7 +197,7 @@ bool Record::setHandle(int index, quint64 handle) {
 }
 
 bool Record::setString(int index, const QString& text) {
-  if (index < 0 || index >= size()) return false;
+  if (index < 0 || index >= size() || hasControlCharacters(text)) return false;
   const ValueType type = m_tags[index].type();
   if (type != ValueType::String && type != ValueType::Handle) return false;
   return setRaw(index, encodeText(text, m_format.codepage));

@@ -215,6 +215,12 @@ QByteArray encodeText(const QString& text, quint16 codepage) {
   return out;
 }
 
+bool hasControlCharacters(QStringView text) {
+  for (QChar c : text)
+    if (c.unicode() < 0x20 || c.unicode() == 0x7F) return true;
+  return false;
+}
+
 QByteArray formatReal(double value) {
   char buf[40];
   const auto r = std::to_chars(buf, buf + sizeof buf - 2, value);

@@ -60,6 +60,9 @@ DB_API QString decodeText(QByteArrayView bytes, quint16 codepage);
 // Encodes text for the given code page; characters it cannot hold become
 // \U+XXXX escapes, as AutoCAD writes them.
 DB_API QByteArray encodeText(const QString& text, quint16 codepage);
+// Whether text holds a line break, a tab or another control character
+// (U+0000-U+001F, U+007F), which a string value of a DXF file cannot hold.
+DB_API bool hasControlCharacters(QStringView text);
 // Shortest text that reads back to the same double, with ".0" added to whole
 // numbers as AutoCAD writes them ("1.0", "0.5", "1e+20").
 DB_API QByteArray formatReal(double value);
@@ -147,7 +150,8 @@ class DB_API Record {
   bool isEdited() const;
 
   // Editing. Each returns false (and changes nothing) if the index is out of
-  // range or the value does not fit the group code's type. A patched tag keeps
+  // range or the value does not fit the group code's type; setString also
+  // for text with control characters (see hasControlCharacters). A patched tag keeps
   // its group code line; numbers keep the value's right alignment.
   bool setReal(int index, double value);
   bool setInteger(int index, qint64 value);
