@@ -65,6 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadValue{"RealOfAnArc", drawing(arc("bad-float")), " 40\nbad", "ARC (handle 2B): group code 40 value 'bad-float' is not a number"},
         BadValue{"RealWithTrailingText", drawing(arc("1.5mm")), " 40\n1.5mm", "group code 40 value '1.5mm' is not a number"},
         BadValue{"RealOverflowing", drawing(arc("1e999")), " 40\n", "group code 40 value '1e999' is out of the range of a real"},
+        BadValue{"TwoSigns", drawing(arc("+-1.0")), " 40\n", "group code 40 value '+-1.0' is not a number"},
         BadValue{"EmptyReal", drawing(arc("")), " 40\n", "group code 40 value '' is not a number"},
         BadValue{"Int16TooLarge", drawing(arc("1.0", " 62\n99999999999\n")), " 62\n", "group code 62 value '99999999999' is out of the range of its type (-32768 to 32767)"},
         BadValue{"Int16JustTooLarge", drawing(kLine, dictionary("281\n     1\n 70\n32768\n")), " 70\n32768", "DICTIONARY (handle C): group code 70 value '32768' is out of the range"},
