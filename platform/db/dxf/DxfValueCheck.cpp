@@ -51,7 +51,8 @@ bool plainDecimal(QByteArrayView text, bool& integral, qint64& value) {
   if (p < e && (*p == '-' || *p == '+')) ++p;
   const char* digits = p;
   qint64 v = 0;
-  while (p < e && *p >= '0' && *p <= '9') v = v * 10 + (*p++ - '0');
+  for (; p < e && *p >= '0' && *p <= '9'; ++p)
+    if (p - digits < 18) v = v * 10 + (*p - '0');
   const qsizetype whole = p - digits;
   integral = p == e;
   if (integral) {
