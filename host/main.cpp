@@ -20,6 +20,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 
 namespace {
@@ -137,6 +138,11 @@ QString saveAsReleases() {
 }  // namespace
 
 int main(int argc, char** argv) {
+#ifdef SIGXFSZ
+  // A file size limit (ulimit -f) must make a save fail with its reason,
+  // not kill the program halfway.
+  std::signal(SIGXFSZ, SIG_IGN);
+#endif
   QCoreApplication app(argc, argv);
   QCoreApplication::setApplicationName("zqprops");
   QTextStream out(stdout), err(stderr);
@@ -156,11 +162,13 @@ int main(int argc, char** argv) {
   const QCommandLineOption output({"o", "output"}, "Save the drawing to OUT.", "OUT");
   const QCommandLineOption lang("lang", "Use the translation catalog of this language.", "CODE");
   const QCommandLineOption ucs("ucs", "List information in the current UCS.");
+  const QCommandLineOption strict(
+      "strict", QCoreApplication::translate("zqprops", "Refuse a drawing that reading would warn about (a coordinate that is not a number, a repair)."));
   const QCommandLineOption inPlace("in-place", "Save the drawing over the input file.");
   const QCommandLineOption saveAs("save-as", "Save the drawing as this release (R2000 or newer, e.g. R2018).", "RELEASE");
   const QCommandLineOption force("force", "Also edit objects on locked layers.");
   const QCommandLineOption vertex("vertex", "Make vertex N the current vertex of the objects that have vertices.", "N");
-  parser.addOptions({list, info, handle, json, set, script, output, lang, ucs, inPlace, saveAs, force, vertex});
+  parser.addOptions({list, info, handle, json, set, script, output, lang, ucs, inPlace, saveAs, force, vertex, strict});
   if (!parser.parse(app.arguments())) {
     err << "zqprops: " << parser.errorText() << "\n";
     return kUsage;
@@ -219,7 +227,7 @@ int main(int argc, char** argv) {
   const QString inputPath = positional.front();
   QString error;
   QStringList warnings;
-  OdDbDatabasePtr db = OdDxf::readDrawing(inputPath, error, &warnings);
+  OdDbDatabasePtr db = OdDxf::readDrawing(inputPath, error, &warnings, {.strict = parser.isSet(strict)});
   if (!db) {
     err << "zqprops: " << inputPath << ": " << error << "\n";
     return kUsage;

@@ -136,6 +136,27 @@ DE.setdefault("errors", {}).update({
     'Area must be an area other than 0, followed by "sq. in." in engineering and architectural units':
         'Die Fläche muss eine Fläche ungleich 0 sein, in technischen und architektonischen Einheiten gefolgt von "sq. in."',
 })
+# DXF reading and saving: value checks, refused texts, failed saves, --strict
+DE.setdefault("OdDxf", {}).update({
+    "Cannot write %1: %2.": "%1 kann nicht geschrieben werden: %2.",
+    "%1 was not saved: %2. An existing file of that name is unchanged.":
+        "%1 wurde nicht gespeichert: %2. Eine vorhandene Datei dieses Namens ist unverändert.",
+    "group code %1 value '%2' is out of the range of its type": "Gruppencode %1: Wert '%2' liegt außerhalb des Bereichs seines Typs",
+    "group code %1 value '%2' is not a handle": "Gruppencode %1: Wert '%2' ist keine Referenz",
+    "group code %1 value '%2' is not hexadecimal data": "Gruppencode %1: Wert '%2' sind keine hexadezimalen Daten",
+    "group code %1 value '%2' is out of the range of a real": "Gruppencode %1: Wert '%2' liegt außerhalb des Bereichs einer reellen Zahl",
+    "group code %1 value '%2' is not a number": "Gruppencode %1: Wert '%2' ist keine Zahl",
+    "group code %1 value '%2' is not a finite number": "Gruppencode %1: Wert '%2' ist keine endliche Zahl",
+    "group code %1 value '%2' is not an integer": "Gruppencode %1: Wert '%2' ist keine ganze Zahl",
+    "group code %1 cannot hold \"%2\": a drawing file cannot hold line breaks, tabs or other control characters in a text":
+        "Gruppencode %1 kann \"%2\" nicht aufnehmen: Eine Zeichnungsdatei kann in einem Text keine Zeilenumbrüche, "
+        "Tabulatoren oder anderen Steuerzeichen enthalten"})
+DE.setdefault("errors", {}).update({
+    "A hyperlink cannot contain line breaks or control characters":
+        "Ein Hyperlink darf keine Zeilenumbrüche oder Steuerzeichen enthalten"})
+DE.setdefault("zqprops", {}).update({
+    "Refuse a drawing that reading would warn about (a coordinate that is not a number, a repair).":
+        "Eine Zeichnung ablehnen, bei deren Lesen eine Warnung käme (eine Koordinate, die keine Zahl ist, eine Reparatur)."})
 
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)

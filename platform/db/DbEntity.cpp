@@ -86,6 +86,16 @@ void OdDbEntity::setPlotStyleName(const OdString& name) {
 }
 
 void OdDbEntity::setHyperlinks(const OdArray<OdDbHyperlink>& links) {
+  // Hyperlinks are written as text items of extended data, which cannot
+  // hold line breaks or other control characters.
+  auto control = [](const OdString& s) {
+    for (QChar c : s.qstring())
+      if (c.unicode() < 0x20 || c.unicode() == 0x7F) return true;
+    return false;
+  };
+  for (const OdDbHyperlink& l : links)
+    if (control(l.name) || control(l.description) || control(l.subLocation))
+      throw OdError(eInvalidInput, OdString("a hyperlink cannot contain line breaks or control characters"));
   assertWriteEnabled();
   m_hyperlinks = links;
 }

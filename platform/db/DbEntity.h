@@ -53,7 +53,9 @@ class DB_API OdDbEntity : public OdDbObject {
   void setPlotStyleName(const OdString& name);
 
   // Hyperlinks attached to the entity (stored as the "PE_URL" extended data
-  // in drawing files).
+  // in drawing files). setHyperlinks throws OdError(eInvalidInput), and
+  // changes nothing, when a text holds a line break, a tab or another
+  // control character.
   const OdArray<OdDbHyperlink>& hyperlinks() const { assertReadEnabled(); return m_hyperlinks; }
   void setHyperlinks(const OdArray<OdDbHyperlink>& links);
 

@@ -73,11 +73,7 @@ void OdDbObject::setXData(const OdResBuf* xdata) {
     OdResBufPtr chain = OdResBuf::newRb(OdResBuf::kDxfRegAppName, app);
     OdResBuf* tail = chain.get();
     p = p->next();
-    for (; p && p->restype() != OdResBuf::kDxfRegAppName; p = p->next()) {
-      OdResBufPtr single = p->copyChain();
-      single->setNext(nullptr);
-      tail = tail->setNext(single.get());
-    }
+    for (; p && p->restype() != OdResBuf::kDxfRegAppName; p = p->next()) tail = tail->setNext(p->copyItem().get());
     auto it = std::find_if(m_xdata.begin(), m_xdata.end(),
                            [&](const OdResBufPtr& c) { return c->getString().iCompare(app) == 0; });
     const bool remove = chain->next() == nullptr;

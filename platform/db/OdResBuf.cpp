@@ -32,6 +32,12 @@ OdResBuf* OdResBuf::last() {
   return p;
 }
 
+OdResBufPtr OdResBuf::copyItem() const {
+  OdResBufPtr item = newRb(m_type);
+  item->m_value = m_value;
+  return item;
+}
+
 OdResBufPtr OdResBuf::copyChain() const {
   OdResBufPtr head = newRb(m_type);
   head->m_value = m_value;

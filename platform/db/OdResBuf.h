@@ -44,6 +44,8 @@ class DB_API OdResBuf : public OdRxObject {
   OdResBuf* last();
   // A deep copy of this item and the items after it.
   OdResBufPtr copyChain() const;
+  // A copy of this item alone (no next item).
+  OdResBufPtr copyItem() const;
 
   OdString getString() const;
   double getDouble() const;

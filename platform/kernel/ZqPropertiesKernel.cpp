@@ -313,7 +313,11 @@ int setHyperlink(const OdDbObject* o, const CZqPropertyDescription&, const CZqVa
   if (url.isEmpty()) links.clear();
   else if (links.isEmpty()) links.append(OdDbHyperlink{OdString(url), {}, {}});
   else links.front().name = OdString(url);
-  e->setHyperlinks(links);
+  try {
+    e->setHyperlinks(links);
+  } catch (const OdError&) {
+    return refuse(QT_TRANSLATE_NOOP("errors", "A hyperlink cannot contain line breaks or control characters"));
+  }
   return kZqSetApplied;
 }
 

@@ -47,7 +47,7 @@ void writeFields(RecordIO& io, OdDbObject* obj, const OdDbObject* before) {
 
 using mapping::DrawingData;
 
-OdDbDatabasePtr readDrawing(const QByteArray& bytes, QString& error, QStringList* warnings) {
+OdDbDatabasePtr readDrawing(const QByteArray& bytes, QString& error, QStringList* warnings, const ReadOptions& options) {
   OdSmartPtr<DrawingData> data(new DrawingData);
   QStringList local;
   if (!File::read(bytes, data->file, error, &local)) return {};
@@ -65,12 +65,16 @@ OdDbDatabasePtr readDrawing(const QByteArray& bytes, QString& error, QStringList
     return {};
   }
   data->ctx.warnings = nullptr;
+  if (options.strict && !local.isEmpty()) {
+    error = local.front();
+    return {};
+  }
   db->setFileData(data.get());
   if (warnings) *warnings += local;
   return db;
 }
 
-OdDbDatabasePtr readDrawing(const QString& path, QString& error, QStringList* warnings) {
+OdDbDatabasePtr readDrawing(const QString& path, QString& error, QStringList* warnings, const ReadOptions& options) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
     error = QStringLiteral("cannot open '%1': %2").arg(path, file.errorString());
@@ -81,7 +85,7 @@ OdDbDatabasePtr readDrawing(const QString& path, QString& error, QStringList* wa
     error = QStringLiteral("cannot read '%1': %2").arg(path, file.errorString());
     return {};
   }
-  return readDrawing(bytes, error, warnings);
+  return readDrawing(bytes, error, warnings, options);
 }
 
 QByteArray writeDrawing(OdDbDatabase* db, QString* error) {

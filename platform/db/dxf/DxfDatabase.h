@@ -31,12 +31,22 @@
 
 namespace OdDxf {
 
+struct ReadOptions {
+  // Refuse a drawing that reading would warn about (a real that is not
+  // finite, a repair): the first warning becomes the error.
+  bool strict = false;
+};
+
 // Reads a DXF drawing into a new database. Refuses (null + error naming the
 // line or byte offset and what is wrong) a file that is not DXF, is truncated
-// or malformed; never returns a silently empty drawing. Safe repairs come
-// back as warnings.
-DB_API OdDbDatabasePtr readDrawing(const QString& path, QString& error, QStringList* warnings = nullptr);
-DB_API OdDbDatabasePtr readDrawing(const QByteArray& bytes, QString& error, QStringList* warnings = nullptr);
+// or malformed - every tag value is checked against its group code's type,
+// in records the platform models or not; never returns a silently empty
+// drawing. Safe repairs and doubtful values kept as read (nan, inf) come back
+// as warnings naming the line or byte offset.
+DB_API OdDbDatabasePtr readDrawing(const QString& path, QString& error, QStringList* warnings = nullptr,
+                                   const ReadOptions& options = {});
+DB_API OdDbDatabasePtr readDrawing(const QByteArray& bytes, QString& error, QStringList* warnings = nullptr,
+                                   const ReadOptions& options = {});
 
 // Writes the database back in the release and form (ASCII/binary) it was read
 // from; a database not read from a file is written as ASCII AC1015. Saving

@@ -88,6 +88,11 @@ inline QString typeName(const Record& r) { return QString::fromLatin1(r.type().t
 // for a drawing that cannot be read.
 void readObjects(DrawingData& d, OdDbDatabase* db, QStringList* warnings);
 
+// Checks every tag value outside HEADER against its group code's type
+// (DxfValueCheck.cpp): throws MapError for a malformed one, warns about
+// reals that are not finite.
+void checkValues(Context& ctx);
+
 // Brings the records the database keeps up to date with it (in a copy that
 // replaces them once that worked) and serializes them. False with `error`
 // when the drawing cannot be written; nothing is changed then.

@@ -455,6 +455,7 @@ void Reader::run() {
 
   readVersion();
   scanHandles();
+  checkValues(m_ctx);
   size_t records = 0;
   for (const Section& s : f.sections()) records += size_t(s.records.size());
   m_db->reserveObjects(records);

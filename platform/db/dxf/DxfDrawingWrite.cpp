@@ -165,7 +165,7 @@ void Writer::rename(Record& r) {
     const int i = r.find(code);
     if (i < 0 || r.at(i).code() != code) return;
     const auto it = renames.find(r.str(i).trimmed().toCaseFolded());
-    if (it != renames.end()) r.setString(i, it.value());
+    if (it != renames.end()) writeString(m_ctx, r, i, it.value());
   };
   fix(8, m_layerRenames);
   fix(6, m_linetypeRenames);
@@ -241,7 +241,7 @@ QList<Record> Writer::createEntity(const OdDbObjectId& id, const OdDbObjectId& b
       if (m_ctx.handles) end.setHandle(end.append(330), id.getHandle().value());
       end.setRaw(end.append(100), "AcDbEntity");
     }
-    end.setString(end.append(8), recordName(e->layerId()).isEmpty() ? QStringLiteral("0") : recordName(e->layerId()));
+    writeString(m_ctx, end, end.append(8), recordName(e->layerId()).isEmpty() ? QStringLiteral("0") : recordName(e->layerId()));
     out.append(end);
   }
   return out;

@@ -301,7 +301,15 @@ OdResBufPtr hyperlinkItems(const OdDbHyperlink& link) {
 
 void entityXdataFields(RecordIO& io, OdDbEntity* e, const OdDbEntity* before) {
   if (io.reading()) {
-    if (OdResBufPtr url = io.xdataOf(kUrlApp)) e->setHyperlinks(readHyperlinks(url.get()));
+    if (OdResBufPtr url = io.xdataOf(kUrlApp)) {
+      try {
+        e->setHyperlinks(readHyperlinks(url.get()));
+      } catch (const OdError& err) {
+        // A tab (or, in binary DXF, a line break) in the file's hyperlink:
+        // its tags stay in the file as they are; the entity shows none.
+        io.warn(0, QStringLiteral("hyperlink not read (%1); kept in the file as it is").arg(err.description().qstring()));
+      }
+    }
   } else {
     const OdArray<OdDbHyperlink>& now = e->hyperlinks();
     const bool changed = before ? !(now == before->hyperlinks()) : !now.isEmpty();

@@ -230,13 +230,13 @@ void patchHeader(Context& ctx) {
       if ((fileId.isNull() ? def : fileId) == id &&
           (fileId.isNull() || fileName.compare(name, Qt::CaseInsensitive) == 0))
         continue;
-      var->setString(i, name);
+      writeString(ctx, *var, i, name);
       continue;
     }
     // Not in the file: added only when it is not the drawing's default.
     if (id == def) continue;
     if (!var) var = &addVariable(ctx, v.name);
-    var->setString(var->append(v.code), name);
+    writeString(ctx, *var, var->append(v.code), name);
   }
   const Ucs was = fileUcs(ctx);
   const OdGePoint3d now[3] = {db.getUCSORG(), OdGePoint3d::kOrigin + db.getUCSXDIR(),

@@ -115,6 +115,11 @@ struct Context {
   mutable qsizetype line = 1;
 };
 
+// Sets a string tag; text that a DXF string cannot hold (a line break, a
+// tab, another control character) throws MapError naming the record, the
+// group code and the text, instead of leaving the value empty.
+void writeString(const Context& ctx, Record& r, int index, const QString& text);
+
 class RecordIO {
  public:
   enum Mode { Read, Patch, Create };

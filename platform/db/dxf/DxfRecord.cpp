@@ -1,12 +1,11 @@
 // Record: lookup of the record's type and handle, and editing of single tags.
 //
 // An edited or inserted tag gets its own bytes - group code, value, line end
-// (or NUL) in the record's form - in m_own; the tag's view then points there,
+// (or NUL) in the record's form - in its chunks; the tag's view then points there,
 // so the writer copies every tag the same way, edited or not.
-#include <cstring>
 #include "DxfInternal.h"
 
-#include <functional>
+#include <cstring>
 
 namespace OdDxf {
 
@@ -90,30 +89,57 @@ bool Record::store(int index, QByteArrayView value, bool keepPrefix) {
     post = m_format.crlf ? 2 : 1;
   }
   if (preLen > 0xFFFF) return false;
-  m_own.append(buf);
-  m_tags[index] = Access::make(m_own.constLast().constData() + preLen, value.size(), old.code(), int(preLen), post,
-                               bin, true);
-
-  // Drop bytes no tag points into any more once they outweigh the live ones.
-  if (m_own.size() >= 16) {
-    qsizetype live = 0;
-    for (const Tag& t : m_tags) live += t.isEdited();
-    if (m_own.size() > 2 * live) {
-      QList<QByteArray> keep;
-      std::less<const char*> lt;
-      for (const QByteArray& b : std::as_const(m_own)) {
-        const char* lo = b.constData();
-        const char* hi = lo + b.size();
-        for (const Tag& t : m_tags)
-          if (!lt(t.m_value, lo) && !lt(hi, t.m_value)) {
-            keep.append(b);
-            break;
-          }
-      }
-      m_own = std::move(keep);
-    }
-  }
+  const char* at = keep(buf.constData(), buf.size());
+  m_tags[index] = Access::make(at + preLen, value.size(), old.code(), int(preLen), post, bin, true);
+  dropped(old);
+  compactIfWasteful();
   return true;
+}
+
+const char* Record::keep(const char* bytes, qsizetype n) {
+  Chunk* c = m_chunks.empty() ? nullptr : m_chunks.back().get();
+  if (!c || c->size - c->used < n) {
+    // Chunks grow with the record's edits: a few bytes for one patched
+    // value, up to a megabyte at a time for a rewritten vertex list.
+    const qsizetype grown = c ? qMin<qsizetype>(2 * c->size, qsizetype(1) << 20) : 128;
+    auto fresh = std::make_shared<Chunk>();
+    fresh->size = qMax(n, grown);
+    fresh->data.reset(new char[size_t(fresh->size)]);
+    m_chunks.push_back(fresh);
+    c = fresh.get();
+  }
+  char* at = c->data.get() + c->used;
+  std::memcpy(at, bytes, size_t(n));
+  c->used += n;
+  m_liveBytes += n;
+  return at;
+}
+
+void Record::dropped(const Tag& t) {
+  if (!t.isEdited() || !t.m_value) return;
+  const qsizetype n = Access::end(t) - Access::begin(t);
+  m_liveBytes -= n;
+  m_deadBytes += n;
+}
+
+void Record::compactIfWasteful() {
+  if (m_deadBytes <= 1024 || m_deadBytes <= m_liveBytes + 16 * m_tags.size()) return;
+  auto fresh = std::make_shared<Chunk>();
+  fresh->size = qMax<qsizetype>(m_liveBytes, 1);
+  fresh->data.reset(new char[size_t(fresh->size)]);
+  for (Tag& t : m_tags) {
+    if (!t.isEdited() || !t.m_value) continue;
+    const char* b = Access::begin(t);
+    const qsizetype n = Access::end(t) - b;
+    char* at = fresh->data.get() + fresh->used;
+    std::memcpy(at, b, size_t(n));
+    fresh->used += n;
+    t.m_value = at + Access::pre(t);
+  }
+  m_chunks.clear();
+  m_chunks.push_back(std::move(fresh));
+  m_liveBytes = m_chunks.back()->used;
+  m_deadBytes = 0;
 }
 
 bool Record::storeNumber(int index, const QByteArray& text, const char* binary, int binarySize) {
@@ -171,7 +197,7 @@ bool Record::setHandle(int index, quint64 handle) {
 }
 
 bool Record::setString(int index, const QString& text) {
-  if (index < 0 || index >= size()) return false;
+  if (index < 0 || index >= size() || hasControlCharacters(text)) return false;
   const ValueType type = m_tags[index].type();
   if (type != ValueType::String && type != ValueType::Handle) return false;
   return setRaw(index, encodeText(text, m_format.codepage));
@@ -221,9 +247,8 @@ bool Record::insertCopy(int index, const Tag& tag) {
   const bool bin = m_format.binary;
   const bool sameForm = tag.isBinaryForm() == bin && (!bin || detail::hasShortCode(tag) == m_format.shortCodes);
   if (sameForm && (bin || Access::endsLine(tag))) {
-    m_own.append(QByteArray(Access::begin(tag), Access::end(tag) - Access::begin(tag)));
-    const QByteArray& b = m_own.constLast();
-    m_tags.insert(index, Access::make(b.constData() + Access::pre(tag), tag.m_size, tag.code(), Access::pre(tag),
+    const char* b = keep(Access::begin(tag), Access::end(tag) - Access::begin(tag));
+    m_tags.insert(index, Access::make(b + Access::pre(tag), tag.m_size, tag.code(), Access::pre(tag),
                                       Access::post(tag), bin, true));
     return true;
   }
@@ -239,7 +264,10 @@ bool Record::insertCopy(int index, const Tag& tag) {
 
 void Record::remove(int index, int count) {
   if (index < 0 || count <= 0 || index >= size()) return;
-  m_tags.remove(index, qMin(count, size() - index));
+  count = qMin(count, size() - index);
+  for (int i = index; i < index + count; ++i) dropped(m_tags[i]);
+  m_tags.remove(index, count);
+  compactIfWasteful();
 }
 
 }  // namespace OdDxf

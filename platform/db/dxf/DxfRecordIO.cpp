@@ -4,6 +4,8 @@
 #include "DxfMapping.h"
 #include "OdResBuf.h"
 
+#include <QCoreApplication>
+
 #include <cstring>
 
 namespace OdDxf::mapping {
@@ -244,11 +246,33 @@ void RecordIO::putInteger(int code, qint64 v) {
   m_rec.setInteger(i, v);
 }
 
+void writeString(const Context& ctx, Record& r, int index, const QString& text) {
+  if (r.setString(index, text)) return;
+  if (!hasControlCharacters(text)) {
+    throw MapError{QStringLiteral("%1: group code %2 cannot hold '%3'")
+                       .arg(ctx.where(r, index))
+                       .arg(index >= 0 && index < r.size() ? r.at(index).code() : -1)
+                       .arg(text.left(40))};
+  }
+  // The text as it can be shown on one line: control characters as ^J, ^I...
+  QString shown;
+  for (QChar c : text.left(60))
+    shown += c.unicode() < 0x20 ? QStringLiteral("^") + QChar(c.unicode() + 0x40)
+             : c.unicode() == 0x7F ? QStringLiteral("^?")
+                                   : QString(c);
+  throw MapError{QStringLiteral("%1: ").arg(ctx.where(r, index)) +
+                 QCoreApplication::translate("OdDxf",
+                                             "group code %1 cannot hold \"%2\": a drawing file cannot hold line breaks, "
+                                             "tabs or other control characters in a text")
+                     .arg(r.at(index).code())
+                     .arg(shown)};
+}
+
 void RecordIO::putString(int code, const QString& v) {
   bool existing = false;
   const int i = slot(code, existing);
   if (existing && m_rec.str(i) == v) return;
-  m_rec.setString(i, v);
+  writeString(m_ctx, m_rec, i, v);
 }
 
 void RecordIO::putHandle(int code, quint64 h) {
@@ -409,7 +433,7 @@ void RecordIO::putXdataOf(const QString& app, const OdResBuf* items) {
     m_rec.insert(at, code);
     return at++;
   };
-  m_rec.setString(add(1001), app);
+  writeString(m_ctx, m_rec, add(1001), app);
   for (const OdResBuf* p = items; p; p = p->next()) {
     const int code = p->restype();
     switch (OdResBuf::kindOf(code)) {
@@ -436,7 +460,7 @@ void RecordIO::putXdataOf(const QString& app, const OdResBuf* items) {
         } while (k < b.size());
         break;
       }
-      default: m_rec.setString(add(code), p->getString().qstring()); break;
+      default: writeString(m_ctx, m_rec, add(code), p->getString().qstring()); break;
     }
   }
 }

@@ -120,7 +120,10 @@ void appendEscape(QByteArray& out, char16_t u) {
 template <typename T>
 bool parseNumber(QByteArrayView text, T& v, int base = 10) {
   QByteArrayView t = detail::trimBlanks(text);
-  if (!t.isEmpty() && t[0] == '+') t = t.sliced(1);
+  if (!t.isEmpty() && t[0] == '+') {
+    t = t.sliced(1);
+    if (!t.isEmpty() && t[0] == '-') return false;  // "+-5"
+  }
   if (t.isEmpty()) return false;
   const char* e = t.data() + t.size();
   std::from_chars_result r;
@@ -213,6 +216,12 @@ QByteArray encodeText(const QString& text, quint16 codepage) {
     i += n - 1;
   }
   return out;
+}
+
+bool hasControlCharacters(QStringView text) {
+  for (QChar c : text)
+    if (c.unicode() < 0x20 || c.unicode() == 0x7F) return true;
+  return false;
 }
 
 QByteArray formatReal(double value) {

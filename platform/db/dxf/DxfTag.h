@@ -28,6 +28,9 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <memory>
+#include <vector>
+
 namespace OdDxf {
 
 // Value type of a group code, from the group code ranges of the DXF reference.
@@ -57,6 +60,9 @@ DB_API QString decodeText(QByteArrayView bytes, quint16 codepage);
 // Encodes text for the given code page; characters it cannot hold become
 // \U+XXXX escapes, as AutoCAD writes them.
 DB_API QByteArray encodeText(const QString& text, quint16 codepage);
+// Whether text holds a line break, a tab or another control character
+// (U+0000-U+001F, U+007F), which a string value of a DXF file cannot hold.
+DB_API bool hasControlCharacters(QStringView text);
 // Shortest text that reads back to the same double, with ".0" added to whole
 // numbers as AutoCAD writes them ("1.0", "0.5", "1e+20").
 DB_API QByteArray formatReal(double value);
@@ -144,7 +150,8 @@ class DB_API Record {
   bool isEdited() const;
 
   // Editing. Each returns false (and changes nothing) if the index is out of
-  // range or the value does not fit the group code's type. A patched tag keeps
+  // range or the value does not fit the group code's type; setString also
+  // for text with control characters (see hasControlCharacters). A patched tag keeps
   // its group code line; numbers keep the value's right alignment.
   bool setReal(int index, double value);
   bool setInteger(int index, qint64 value);
@@ -163,12 +170,31 @@ class DB_API Record {
 
  private:
   friend struct detail::Access;
+  // Bytes of edited and inserted tags. They are written once into chunks
+  // that never move or change, so copies of a record can share them; a
+  // chunk's free tail is shared too (each copy appends after what any of
+  // them wrote).
+  struct Chunk {
+    std::unique_ptr<char[]> data;
+    qsizetype size = 0;
+    qsizetype used = 0;
+  };
   bool store(int index, QByteArrayView value, bool keepPrefix);
   bool storeNumber(int index, const QByteArray& text, const char* binary, int binarySize);
+  // Copies `n` bytes into the chunks and returns where they now are.
+  const char* keep(const char* bytes, qsizetype n);
+  // A tag's own bytes are no longer used: they count as waste.
+  void dropped(const Tag& t);
+  // Once the waste outweighs the live bytes and the record's size, copies
+  // the live bytes into a fresh chunk; so the copying costs no more than
+  // the edits that made the waste.
+  void compactIfWasteful();
 
   QList<Tag> m_tags;
   QByteArray m_source;       // keeps the file buffer alive for the tags' views
-  QList<QByteArray> m_own;   // bytes of edited and inserted tags
+  std::vector<std::shared_ptr<Chunk>> m_chunks;
+  qsizetype m_liveBytes = 0;  // bytes of the edited tags
+  qsizetype m_deadBytes = 0;  // bytes in the chunks no tag of this record uses
   Format m_format;
 };
 

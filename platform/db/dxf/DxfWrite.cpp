@@ -5,6 +5,8 @@
 // so writing an unedited file is little more than one memcpy.
 #include "DxfInternal.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QHash>
 #include <QSaveFile>
 
@@ -110,18 +112,31 @@ QByteArray File::write(Form form, QStringList* problems) const {
 }
 
 bool saveBytes(const QString& path, const QByteArray& bytes, QString& error) {
+  // Unbuffered, so that every write reports its own failure (a full disk, a
+  // file size limit) rather than a final flush that commit() would not
+  // report; on any failure the temporary file is dropped and an existing
+  // file at `path` stays as it was.
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) {
-    error = QStringLiteral("cannot write '%1': %2").arg(path, file.errorString());
-    return false;
-  }
-  if (file.write(bytes) != bytes.size()) {
-    error = QStringLiteral("cannot write '%1': %2").arg(path, file.errorString());
+  auto fail = [&](const char* what) {
+    error = QCoreApplication::translate("OdDxf", what).arg(QDir::toNativeSeparators(path), file.errorString());
     file.cancelWriting();
     return false;
+  };
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    return fail(QT_TRANSLATE_NOOP("OdDxf", "Cannot write %1: %2."));
+  static const char* const kNotSaved =
+      QT_TRANSLATE_NOOP("OdDxf", "%1 was not saved: %2. An existing file of that name is unchanged.");
+  constexpr qsizetype kPiece = qsizetype(1) << 20;
+  for (qsizetype done = 0; done < bytes.size();) {
+    const qint64 n = file.write(bytes.constData() + done, qMin(kPiece, bytes.size() - done));
+    if (n <= 0 || file.error() != QFileDevice::NoError)
+      return fail(kNotSaved);
+    done += qsizetype(n);
   }
+  if (!file.flush() || file.error() != QFileDevice::NoError)
+    return fail(kNotSaved);
   if (!file.commit()) {
-    error = QStringLiteral("cannot save '%1': %2").arg(path, file.errorString());
+    error = QCoreApplication::translate("OdDxf", kNotSaved).arg(QDir::toNativeSeparators(path), file.errorString());
     return false;
   }
   return true;
