@@ -1,4 +1,5 @@
 #include "ZqRows.h"
+#include "ZqServices.h"
 #include <cmath>
 
 namespace {
@@ -106,6 +107,9 @@ CZqCustomPropertyDescription* ZqBuildFixedDescription(const ZqRow& row, OdArray<
     case ZqVis::kOr: d->SetVisibility(d->GetVisibility() | row.vis.bits); break;
     case ZqVis::kXor: d->SetVisibility(d->GetVisibility() ^ row.vis.bits); break;
     case ZqVis::kSet: d->SetVisibility(row.vis.bits); break;
+    case ZqVis::kOrUnlessStandard:
+      if (CZqUtils::IsNotTelvaneStandard()) d->SetVisibility(d->GetVisibility() | row.vis.bits);
+      break;
   }
   return d;
 }

@@ -30,13 +30,15 @@ inline constexpr ZqIsReadOnlyMethod kZqReadOnly = &CZqCustomPropertyPE::IsReadOn
 
 // How a row changes its description's visibility once it is in the list.
 struct ZqVis {
-  enum Op { kKeep, kOr, kXor, kSet } op = kKeep;
+  // kOrUnlessStandard: kOr in every edition above the standard one.
+  enum Op { kKeep, kOr, kXor, kSet, kOrUnlessStandard } op = kKeep;
   unsigned bits = 0;
 };
 constexpr ZqVis kVisKeep{};
 constexpr ZqVis kVisOr4{ZqVis::kOr, 4};
 constexpr ZqVis kVisXor8{ZqVis::kXor, 8};
 constexpr ZqVis kVisMatchProp{ZqVis::kSet, 4};
+constexpr ZqVis kVisOr4UnlessStandard{ZqVis::kOrUnlessStandard, 4};
 
 // The values a numeric row takes. One statement serves the setter that
 // checks a value and the sentence that tells a user what is allowed.

@@ -11,6 +11,7 @@
 #include "Point.h"
 #include "Polyline.h"
 #include "Ray.h"
+#include "Text.h"
 #include "Xline.h"
 
 #include <vector>

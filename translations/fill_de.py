@@ -158,6 +158,23 @@ DE.setdefault("zqprops", {}).update({
     "Refuse a drawing that reading would warn about (a coordinate that is not a number, a repair).":
         "Eine Zeichnung ablehnen, bei deren Lesen eine Warnung käme (eine Koordinate, die keine Zahl ist, eine Reparatur)."})
 
+# Single-line text: rows, justification words and information lines.
+DE.setdefault("entity_types", {}).update({"Simplenote": "Text"})
+DE.setdefault("property_groups", {}).update({"Text": "Text"})
+DE.setdefault("property_types", {}).update({
+    "Contents": "Inhalt", "TextStyle": "Textstil", "Justify": "Ausrichtung", "Height": "Höhe", "Rotation": "Drehung",
+    "Spacing": "Breitenfaktor", "Text alignment X": "Textausrichtung X", "Text alignment Y": "Textausrichtung Y",
+    "Text alignment Z": "Textausrichtung Z", "UpsideDown": "Kopfüber", "Backward": "Rückwärts"})
+DE.setdefault("property_values", {}).update({
+    "Left": "Links", "Center": "Zentriert", "Right": "Rechts", "Aligned": "Ausgerichtet", "Middle": "Mitte",
+    "Fit": "Eingepasst", "Top Left": "Oben links", "Top Center": "Oben zentriert", "Top Right": "Oben rechts",
+    "Middle Left": "Mitte links", "Middle Center": "Mitte zentriert", "Middle Right": "Mitte rechts",
+    "Bottom Left": "Unten links", "Bottom Center": "Unten zentriert", "Bottom Right": "Unten rechts"})
+DE.setdefault("info_items", {}).update({
+    "TextStyle": "Textstil", "Typeface": "Schriftbild", "Font file": "Schriftdatei", "Start point": "Startpunkt",
+    "height": "Höhe", "text": "Text", "rotation angle": "Drehwinkel", "width scale": "Breitenfaktor",
+    "obliquing angle": "Neigungswinkel"})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []
