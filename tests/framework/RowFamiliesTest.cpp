@@ -67,6 +67,32 @@ TEST(ZqRowIconTest, IconFolderOfARow) {
   EXPECT_EQ(b->GetNameKey().qstring(), "Start X");
 }
 
+// Rows that only editions above the standard one show: flag 4 added there,
+// the visibility kept in the standard edition; the other operations do
+// not depend on the edition.
+TEST(ZqRowVisibilityTest, EditionRowsAddFlag4AboveTheStandardEditionOnly) {
+  const bool wasStandard = !CZqUtils::IsNotTelvaneStandard();
+  struct Case {
+    ZqVis vis;
+    bool standard;
+    bool flag4;
+  };
+  const Case cases[] = {{kVisOr4UnlessStandard, false, true}, {kVisOr4UnlessStandard, true, false},
+                        {kVisOr4, true, true},                {kVisOr4, false, true},
+                        {kVisKeep, false, false}};
+  OdArray<CZqPropertyDescription*> list;
+  for (const Case& c : cases) {
+    CZqUtils::SetStandardEdition(c.standard);
+    const ZqRow row{ZQ_GENERAL, "Thickness", kZqDouble, nullptr, kZqEditable, nullptr, nullptr, nullptr, c.vis};
+    const ZqRow plain{ZQ_GENERAL, "Thickness", kZqDouble, nullptr, kZqEditable, nullptr, nullptr, nullptr, kVisKeep};
+    const unsigned before = ZqBuildFixedDescription(plain, list)->GetVisibility();
+    const unsigned after = ZqBuildFixedDescription(row, list)->GetVisibility();
+    ASSERT_EQ(before & 4u, 0u);
+    EXPECT_EQ(after, c.flag4 ? (before | 4u) : before) << "standard " << c.standard << " op " << int(c.vis.op);
+  }
+  CZqUtils::SetStandardEdition(wasStandard);
+}
+
 using E = OdDbEntity;
 using L = OdDbLine;
 using P = OdDbPolyline;
