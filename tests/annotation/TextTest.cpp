@@ -300,6 +300,24 @@ TEST_F(TextTest, ChoosingTheCurrentJustificationChangesNothing) {
   EXPECT_EQ(t->alignmentPoint(), OdGePoint3d(9, 8, 0));
 }
 
+// The first entry with the text's pair of modes; a pair no entry has
+// shows as "Left".
+TEST_F(TextTest, JustificationShownIsTheEntryOfBothModes) {
+  const struct {
+    OdDb::TextHorzMode h;
+    OdDb::TextVertMode v;
+    const char* word;
+  } cases[] = {{OdDb::kTextMid, OdDb::kTextBase, "Middle"},        {OdDb::kTextCenter, OdDb::kTextVertMid, "Middle Center"},
+               {OdDb::kTextRight, OdDb::kTextBottom, "Bottom Right"}, {OdDb::kTextLeft, OdDb::kTextTop, "Top Left"},
+               {OdDb::kTextAlign, OdDb::kTextTop, "Left"},          {OdDb::kTextMid, OdDb::kTextVertMid, "Left"}};
+  for (const auto& c : cases) {
+    const OdDbObjectId id = addText("abc", c.h, c.v);
+    const CZqVariant v = get(id, "Text", "Justify");
+    EXPECT_EQ(currentWord(v), c.word);
+    EXPECT_EQ(v.GetCollection().GetCount(), 15);
+  }
+}
+
 TEST_F(TextTest, LeavingAndReturningToLeftKeepsTheTextInPlace) {
   const OdDbObjectId id = addText("abc", OdDb::kTextLeft, OdDb::kTextBase, {1, 2, 0}, {0, 0, 0});
   EXPECT_EQ(set(id, "Text", "Justify", choose(10)), 5100);
