@@ -170,6 +170,13 @@ DE.setdefault("zqprops", {}).update({
     "%1 is the input drawing; name it with -o to overwrite it.": "%1 ist die Eingabezeichnung; geben Sie sie mit -o an, um sie zu überschreiben.",
 })
 
+# Saving what a drawing's release cannot hold.
+DE.setdefault("OdDxf", {}).update({
+    "%1 needs a drawing saved as %2 or later; this one is saved as %3.": "%1 braucht eine Zeichnung im Format %2 oder neuer; diese ist im Format %3 gespeichert.",
+    "A true colour": "Eine True Color", "Transparency": "Die Transparenz", "Lineweight": "Die Linienstärke",
+    "Linetype scale": "Der Linientypfaktor",
+})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []

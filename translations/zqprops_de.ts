@@ -115,6 +115,26 @@
         <source>%1 was not saved: %2. An existing file of that name is unchanged.</source>
         <translation>%1 wurde nicht gespeichert: %2. Eine vorhandene Datei dieses Namens ist unverändert.</translation>
     </message>
+    <message>
+        <source>%1 needs a drawing saved as %2 or later; this one is saved as %3.</source>
+        <translation>%1 braucht eine Zeichnung im Format %2 oder neuer; diese ist im Format %3 gespeichert.</translation>
+    </message>
+    <message>
+        <source>Lineweight</source>
+        <translation>Die Linienstärke</translation>
+    </message>
+    <message>
+        <source>Linetype scale</source>
+        <translation>Der Linientypfaktor</translation>
+    </message>
+    <message>
+        <source>A true colour</source>
+        <translation>Eine True Color</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Die Transparenz</translation>
+    </message>
 </context>
 <context>
     <name>entity_types</name>
