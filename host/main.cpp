@@ -79,7 +79,7 @@ int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArra
       status = kRefused;
       continue;
     }
-    for (const CZqEditResult& r : service.SetValue(row->category, row->name, value)) {
+    for (const CZqEditResult& r : service.SetValue(row->categoryKey, row->nameKey, value)) {
       if (r.code != kZqSetRefused) continue;
       err << QCoreApplication::translate("zqprops", "zqprops: %1: %2: %3").arg(handle, row->name.qstring(), r.message.qstring()) << "\n";
       status = kRefused;
@@ -113,7 +113,7 @@ int chooseVertex(OdDbDatabase* db, int number, const OdDbObjectIdArray& targets,
       status = kUsage;
       continue;
     }
-    for (const CZqEditResult& r : service.SetValue(row->category, row->name, value))
+    for (const CZqEditResult& r : service.SetValue(row->categoryKey, row->nameKey, value))
       if (r.code == kZqSetRefused) {
         err << QCoreApplication::translate("zqprops", "zqprops: %1: %2: %3").arg(handle, row->name.qstring(), r.message.qstring()) << "\n";
         status = kUsage;

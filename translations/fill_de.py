@@ -174,6 +174,24 @@ DE.setdefault("info_items", {}).update({
     "TextStyle": "Textstil", "Typeface": "Schriftbild", "Font file": "Schriftdatei", "Start point": "Startpunkt",
     "height": "Höhe", "text": "Text", "rotation angle": "Drehwinkel", "width scale": "Breitenfaktor",
     "obliquing angle": "Neigungswinkel"})
+# zqprops' own messages about its arguments, the module and scripts.
+DE.setdefault("zqprops", {}).update({
+    "zqprops: --set expects NAME=VALUE, got \"%1\"": "zqprops: --set erwartet NAME=WERT, erhalten \"%1\"",
+    "zqprops: expected one drawing, got %1 (see --help)": "zqprops: eine Zeichnung erwartet, erhalten %1 (siehe --help)",
+    "cannot load ZQProperties: %1": "ZQProperties kann nicht geladen werden: %1",
+    "warning: %1": "Warnung: %1",
+    "zqprops: no object with handle %1": "zqprops: kein Objekt mit der Referenz %1",
+    "zqprops: cannot read script %1: %2": "zqprops: Skript %1 kann nicht gelesen werden: %2",
+    "zqprops: SAVE needs a file name (or -o).": "zqprops: SAVE braucht einen Dateinamen (oder -o).",
+    "%1 is the input drawing; name it with -o to overwrite it.": "%1 ist die Eingabezeichnung; geben Sie sie mit -o an, um sie zu überschreiben.",
+})
+
+# Saving what a drawing's release cannot hold.
+DE.setdefault("OdDxf", {}).update({
+    "%1 needs a drawing saved as %2 or later; this one is saved as %3.": "%1 braucht eine Zeichnung im Format %2 oder neuer; diese ist im Format %3 gespeichert.",
+    "A true colour": "Eine True Color", "Transparency": "Die Transparenz", "Lineweight": "Die Linienstärke",
+    "Linetype scale": "Der Linientypfaktor",
+})
 
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)

@@ -74,6 +74,69 @@
     </message>
 </context>
 <context>
+    <name>OdDxf</name>
+    <message>
+        <source>group code %1 cannot hold "%2": a drawing file cannot hold line breaks, tabs or other control characters in a text</source>
+        <translation>Gruppencode %1 kann "%2" nicht aufnehmen: Eine Zeichnungsdatei kann in einem Text keine Zeilenumbrüche, Tabulatoren oder anderen Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>group code %1 value '%2' is out of the range of its type</source>
+        <translation>Gruppencode %1: Wert '%2' liegt außerhalb des Bereichs seines Typs</translation>
+    </message>
+    <message>
+        <source>group code %1 value '%2' is not a handle</source>
+        <translation>Gruppencode %1: Wert '%2' ist keine Referenz</translation>
+    </message>
+    <message>
+        <source>group code %1 value '%2' is not hexadecimal data</source>
+        <translation>Gruppencode %1: Wert '%2' sind keine hexadezimalen Daten</translation>
+    </message>
+    <message>
+        <source>group code %1 value '%2' is out of the range of a real</source>
+        <translation>Gruppencode %1: Wert '%2' liegt außerhalb des Bereichs einer reellen Zahl</translation>
+    </message>
+    <message>
+        <source>group code %1 value '%2' is not a number</source>
+        <translation>Gruppencode %1: Wert '%2' ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>group code %1 value '%2' is not a finite number</source>
+        <translation>Gruppencode %1: Wert '%2' ist keine endliche Zahl</translation>
+    </message>
+    <message>
+        <source>group code %1 value '%2' is not an integer</source>
+        <translation>Gruppencode %1: Wert '%2' ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not saved: %2. An existing file of that name is unchanged.</source>
+        <translation>%1 wurde nicht gespeichert: %2. Eine vorhandene Datei dieses Namens ist unverändert.</translation>
+    </message>
+    <message>
+        <source>%1 needs a drawing saved as %2 or later; this one is saved as %3.</source>
+        <translation>%1 braucht eine Zeichnung im Format %2 oder neuer; diese ist im Format %3 gespeichert.</translation>
+    </message>
+    <message>
+        <source>Lineweight</source>
+        <translation>Die Linienstärke</translation>
+    </message>
+    <message>
+        <source>Linetype scale</source>
+        <translation>Der Linientypfaktor</translation>
+    </message>
+    <message>
+        <source>A true colour</source>
+        <translation>Eine True Color</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Die Transparenz</translation>
+    </message>
+</context>
+<context>
     <name>entity_types</name>
     <message>
         <source>Circle</source>
@@ -103,6 +166,10 @@
         <source>Entity</source>
         <translation>Objekt</translation>
     </message>
+    <message>
+        <source>Simplenote</source>
+        <translation>Text</translation>
+    </message>
 </context>
 <context>
     <name>errors</name>
@@ -124,31 +191,279 @@
     </message>
     <message>
         <source>The object has no such property.</source>
-        <translation>Das Objekt hat diese Eigenschaft nicht.</translation>
-    </message>
-    <message>
-        <source>The property is read-only.</source>
-        <translation>Die Eigenschaft ist schreibgeschützt.</translation>
-    </message>
-    <message>
-        <source>No drawing.</source>
-        <translation>Keine Zeichnung.</translation>
+        <translation>Das Objekt hat keine solche Eigenschaft.</translation>
     </message>
     <message>
         <source>Invalid input.</source>
         <translation>Ungültige Eingabe.</translation>
     </message>
     <message>
-        <source>No such name:</source>
-        <translation>Name nicht vorhanden:</translation>
-    </message>
-    <message>
-        <source>The property cannot be set from text.</source>
-        <translation>Die Eigenschaft kann nicht aus Text gesetzt werden.</translation>
-    </message>
-    <message>
         <source>Value must be positive</source>
         <translation>Der Wert muss positiv sein</translation>
+    </message>
+    <message>
+        <source>layer</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
+        <source>text style</source>
+        <translation>Textstil</translation>
+    </message>
+    <message>
+        <source>dimension style</source>
+        <translation>Bemaßungsstil</translation>
+    </message>
+    <message>
+        <source>linetype</source>
+        <translation>Linientyp</translation>
+    </message>
+    <message>
+        <source>block</source>
+        <translation>Block</translation>
+    </message>
+    <message>
+        <source>The object is in no drawing, so it can name no %1.</source>
+        <translation>Das Objekt gehört zu keiner Zeichnung und kann daher keinen %1 nennen.</translation>
+    </message>
+    <message>
+        <source>There is no %1 named "%2".</source>
+        <translation>Es gibt keinen %1 namens "%2".</translation>
+    </message>
+    <message>
+        <source>The value is not a %1 of this drawing.</source>
+        <translation>Der Wert ist kein %1 dieser Zeichnung.</translation>
+    </message>
+    <message>
+        <source>%1 takes one of: %2</source>
+        <translation>%1 nimmt einen dieser Werte an: %2</translation>
+    </message>
+    <message>
+        <source>%1 must be greater than 0</source>
+        <translation>%1 muss größer als 0 sein</translation>
+    </message>
+    <message>
+        <source>%1 must be 0 or greater</source>
+        <translation>%1 muss 0 oder größer sein</translation>
+    </message>
+    <message>
+        <source>%1 must not be 0</source>
+        <translation>%1 darf nicht 0 sein</translation>
+    </message>
+    <message>
+        <source>%1 must be between %2 and %3</source>
+        <translation>%1 muss zwischen %2 und %3 liegen</translation>
+    </message>
+    <message>
+        <source>Area must be an area other than 0, followed by "sq. in." in engineering and architectural units</source>
+        <translation>Die Fläche muss eine Fläche ungleich 0 sein, in technischen und architektonischen Einheiten gefolgt von "sq. in."</translation>
+    </message>
+    <message>
+        <source>%1 needs an angle.</source>
+        <translation>%1 braucht einen Winkel.</translation>
+    </message>
+    <message>
+        <source>%1 needs a number.</source>
+        <translation>%1 braucht eine Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 needs text.</source>
+        <translation>%1 braucht einen Text.</translation>
+    </message>
+    <message>
+        <source>%1 needs a whole number.</source>
+        <translation>%1 braucht eine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 needs a colour.</source>
+        <translation>%1 braucht eine Farbe.</translation>
+    </message>
+    <message>
+        <source>%1 needs one of its choices.</source>
+        <translation>%1 braucht eine seiner Auswahlmöglichkeiten.</translation>
+    </message>
+    <message>
+        <source>%1 needs one of the drawing's layers.</source>
+        <translation>%1 braucht einen der Layer der Zeichnung.</translation>
+    </message>
+    <message>
+        <source>%1 needs one of the drawing's linetypes.</source>
+        <translation>%1 braucht einen der Linientypen der Zeichnung.</translation>
+    </message>
+    <message>
+        <source>%1 needs one of the drawing's text styles.</source>
+        <translation>%1 braucht einen der Textstile der Zeichnung.</translation>
+    </message>
+    <message>
+        <source>%1 needs one of the drawing's dimension styles.</source>
+        <translation>%1 braucht einen der Bemaßungsstile der Zeichnung.</translation>
+    </message>
+    <message>
+        <source>%1 needs an object of the drawing.</source>
+        <translation>%1 braucht ein Objekt der Zeichnung.</translation>
+    </message>
+    <message>
+        <source>The object could not be opened for editing.</source>
+        <translation>Das Objekt konnte nicht zum Bearbeiten geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The object has no item %1 for %2.</source>
+        <translation>Das Objekt hat kein Element %1 für %2.</translation>
+    </message>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 nimmt diesen Wert nicht an.</translation>
+    </message>
+    <message>
+        <source>%1 is read-only.</source>
+        <translation>%1 ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>The object is on a locked layer.</source>
+        <translation>Das Objekt liegt auf einem gesperrten Layer.</translation>
+    </message>
+    <message>
+        <source>%1 has no such choice.</source>
+        <translation>%1 hat keine solche Auswahl.</translation>
+    </message>
+    <message>
+        <source>%1 needs a finite number.</source>
+        <translation>%1 braucht eine endliche Zahl.</translation>
+    </message>
+    <message>
+        <source>The drawing has no layer named "%1".</source>
+        <translation>Die Zeichnung hat keinen Layer namens "%1".</translation>
+    </message>
+    <message>
+        <source>The drawing has no linetype named "%1".</source>
+        <translation>Die Zeichnung hat keinen Linientyp namens "%1".</translation>
+    </message>
+    <message>
+        <source>The drawing has no text style named "%1".</source>
+        <translation>Die Zeichnung hat keinen Textstil namens "%1".</translation>
+    </message>
+    <message>
+        <source>The drawing has no dimension style named "%1".</source>
+        <translation>Die Zeichnung hat keinen Bemaßungsstil namens "%1".</translation>
+    </message>
+    <message>
+        <source>The drawing has nothing named "%1" for this property.</source>
+        <translation>Die Zeichnung hat nichts namens "%1" für diese Eigenschaft.</translation>
+    </message>
+    <message>
+        <source>There is no drawing to edit.</source>
+        <translation>Es gibt keine Zeichnung zum Bearbeiten.</translation>
+    </message>
+    <message>
+        <source>"%1" is not an angle: %2 needs a finite angle such as 45 or 45d30'.</source>
+        <translation>"%1" ist kein Winkel: %2 braucht einen endlichen Winkel wie 45 oder 45d30'.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a number: %2 needs a finite number such as 12.5.</source>
+        <translation>"%1" ist keine Zahl: %2 braucht eine endliche Zahl wie 12.5.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a lineweight: %2 takes ByLayer, ByBlock, Default or a standard lineweight from 0.00 mm to 2.11 mm (0.25 or 25 for 0.25 mm).</source>
+        <translation>"%1" ist keine Linienstärke: %2 nimmt VonLayer, VonBlock, Vorgabe oder eine Standardlinienstärke von 0,00 mm bis 2,11 mm an (0.25 oder 25 für 0,25 mm).</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 needs a whole number from -2147483648 to 2147483647.</source>
+        <translation>%1 liegt außerhalb des Bereichs: %2 braucht eine ganze Zahl von -2147483648 bis 2147483647.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a whole number: %2 needs one.</source>
+        <translation>"%1" ist keine ganze Zahl: %2 braucht eine.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a colour: %2 takes an index from 0 to 256, a colour name (red, yellow, green, cyan, blue, magenta, white), ByLayer, ByBlock or red,green,blue from 0 to 255.</source>
+        <translation>"%1" ist keine Farbe: %2 nimmt eine Farbnummer von 0 bis 256, einen Farbnamen (red, yellow, green, cyan, blue, magenta, white), ByLayer, ByBlock oder Rot,Grün,Blau von 0 bis 255 an.</translation>
+    </message>
+    <message>
+        <source>"%1" is not one of the choices of %2: %3.</source>
+        <translation>"%1" ist keine der Auswahlmöglichkeiten von %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be set from text.</source>
+        <translation>%1 kann nicht aus Text gesetzt werden.</translation>
+    </message>
+    <message>
+        <source>A true colour needs a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Eine True Color braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.</translation>
+    </message>
+    <message>
+        <source>The layer must be one of the drawing's layers.</source>
+        <translation>Der Layer muss einer der Layer der Zeichnung sein.</translation>
+    </message>
+    <message>
+        <source>The linetype must be one of the drawing's linetypes.</source>
+        <translation>Der Linientyp muss einer der Linientypen der Zeichnung sein.</translation>
+    </message>
+    <message>
+        <source>Linetype scale must be a finite number greater than 0.</source>
+        <translation>Der Linientypfaktor muss eine endliche Zahl größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>Linetype scale needs a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Der Linientypfaktor braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.</translation>
+    </message>
+    <message>
+        <source>This drawing plots by colour: its objects take only the plot style ByColor.</source>
+        <translation>Diese Zeichnung plottet nach Farbe: ihre Objekte nehmen nur den Plotstil VonFarbe an.</translation>
+    </message>
+    <message>
+        <source>This drawing uses named plot styles: choose ByLayer or one of %1.</source>
+        <translation>Diese Zeichnung verwendet benannte Plotstile: wählen Sie VonLayer oder einen von %1.</translation>
+    </message>
+    <message>
+        <source>The plot style ByBlock cannot be saved in the drawing: choose ByLayer or one of %1.</source>
+        <translation>Der Plotstil VonBlock kann in der Zeichnung nicht gespeichert werden: wählen Sie VonLayer oder einen von %1.</translation>
+    </message>
+    <message>
+        <source>Plot styles need a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Plotstile brauchen eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.</translation>
+    </message>
+    <message>
+        <source>The drawing has no plot style named "%1": choose ByLayer or one of %2.</source>
+        <translation>Die Zeichnung hat keinen Plotstil namens "%1": wählen Sie VonLayer oder einen von %2.</translation>
+    </message>
+    <message>
+        <source>Lineweight must be ByLayer, ByBlock, Default or a standard lineweight from 0.00 mm to 2.11 mm.</source>
+        <translation>Die Linienstärke muss VonLayer, VonBlock, Vorgabe oder eine Standardlinienstärke von 0,00 mm bis 2,11 mm sein.</translation>
+    </message>
+    <message>
+        <source>Lineweight needs a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Die Linienstärke braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.</translation>
+    </message>
+    <message>
+        <source>Transparency must be ByLayer, ByBlock or a whole percentage from 0 to 90.</source>
+        <translation>Die Transparenz muss VonLayer, VonBlock oder ein ganzer Prozentwert von 0 bis 90 sein.</translation>
+    </message>
+    <message>
+        <source>Transparency needs a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Die Transparenz braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.</translation>
+    </message>
+    <message>
+        <source>A hyperlink cannot contain line breaks or control characters</source>
+        <translation>Ein Hyperlink darf keine Zeilenumbrüche oder Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>Only a drawing read from a file can be saved as another release.</source>
+        <translation>Nur eine aus einer Datei gelesene Zeichnung kann in einem anderen Format gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>an unnamed release</source>
+        <translation>ein unbenanntes Format</translation>
+    </message>
+    <message>
+        <source>%1 is not a release the drawing can be saved as.</source>
+        <translation>%1 ist kein Format, in dem die Zeichnung gespeichert werden kann.</translation>
+    </message>
+    <message>
+        <source>The drawing is %1 and cannot be saved as the older %2: what only %1 holds would be lost.</source>
+        <translation>Die Zeichnung ist %1 und kann nicht im älteren Format %2 gespeichert werden: was nur %1 aufnimmt, ginge verloren.</translation>
+    </message>
+    <message>
+        <source>The drawing is %1 and cannot be saved as %2: only drawings of R2000 or later can be moved to a newer release.</source>
+        <translation>Die Zeichnung ist %1 und kann nicht als %2 gespeichert werden: nur Zeichnungen ab R2000 können in ein neueres Format gebracht werden.</translation>
     </message>
 </context>
 <context>
@@ -265,6 +580,42 @@
         <source>Linetype</source>
         <translation>Linientyp</translation>
     </message>
+    <message>
+        <source>TextStyle</source>
+        <translation>Textstil</translation>
+    </message>
+    <message>
+        <source>Typeface</source>
+        <translation>Schriftbild</translation>
+    </message>
+    <message>
+        <source>Font file</source>
+        <translation>Schriftdatei</translation>
+    </message>
+    <message>
+        <source>Start point</source>
+        <translation>Startpunkt</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>rotation angle</source>
+        <translation>Drehwinkel</translation>
+    </message>
+    <message>
+        <source>width scale</source>
+        <translation>Breitenfaktor</translation>
+    </message>
+    <message>
+        <source>obliquing angle</source>
+        <translation>Neigungswinkel</translation>
+    </message>
 </context>
 <context>
     <name>info_values</name>
@@ -314,6 +665,10 @@
     <message>
         <source>Cloud Settings</source>
         <translation>Wolkeneinstellungen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
     </message>
 </context>
 <context>
@@ -534,6 +889,50 @@
         <source>Hyperlink</source>
         <translation>Hyperlink</translation>
     </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>TextStyle</source>
+        <translation>Textstil</translation>
+    </message>
+    <message>
+        <source>Justify</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>Breitenfaktor</translation>
+    </message>
+    <message>
+        <source>Text alignment X</source>
+        <translation>Textausrichtung X</translation>
+    </message>
+    <message>
+        <source>Text alignment Y</source>
+        <translation>Textausrichtung Y</translation>
+    </message>
+    <message>
+        <source>Text alignment Z</source>
+        <translation>Textausrichtung Z</translation>
+    </message>
+    <message>
+        <source>UpsideDown</source>
+        <translation>Kopfüber</translation>
+    </message>
+    <message>
+        <source>Backward</source>
+        <translation>Rückwärts</translation>
+    </message>
 </context>
 <context>
     <name>property_values</name>
@@ -561,52 +960,96 @@
         <source>(read-only)</source>
         <translation>(schreibgeschützt)</translation>
     </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Zentriert</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Aligned</source>
+        <translation>Ausgerichtet</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Eingepasst</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top Center</source>
+        <translation>Oben zentriert</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Middle Left</source>
+        <translation>Mitte links</translation>
+    </message>
+    <message>
+        <source>Middle Center</source>
+        <translation>Mitte zentriert</translation>
+    </message>
+    <message>
+        <source>Middle Right</source>
+        <translation>Mitte rechts</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom Center</source>
+        <translation>Unten zentriert</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>Unten rechts</translation>
+    </message>
 </context>
 <context>
     <name>zqprops</name>
     <message>
         <source>zqprops: --set expects NAME=VALUE, got "%1"</source>
-        <translation type="unfinished" />
-    </message>
-    <message>
-        <source>zqprops: %1: %2 is read-only</source>
-        <translation type="unfinished" />
+        <translation>zqprops: --set erwartet NAME=WERT, erhalten "%1"</translation>
     </message>
     <message>
         <source>zqprops: %1: %2: %3</source>
-        <translation type="unfinished" />
-    </message>
-    <message>
-        <source>zqprops: %1: %2 refused (%3)%4</source>
-        <translation type="unfinished" />
-    </message>
-    <message>
-        <source>zqprops: no object has a property named "%1"</source>
-        <translation type="unfinished" />
+        <translation>zqprops: %1: %2: %3</translation>
     </message>
     <message>
         <source>zqprops: expected one drawing, got %1 (see --help)</source>
-        <translation type="unfinished" />
-    </message>
-    <message>
-        <source>zqprops: no translation catalog for "%1"; using English</source>
-        <translation type="unfinished" />
+        <translation>zqprops: eine Zeichnung erwartet, erhalten %1 (siehe --help)</translation>
     </message>
     <message>
         <source>cannot load ZQProperties: %1</source>
-        <translation type="unfinished" />
+        <translation>ZQProperties kann nicht geladen werden: %1</translation>
     </message>
     <message>
         <source>warning: %1</source>
-        <translation type="unfinished" />
+        <translation>Warnung: %1</translation>
     </message>
     <message>
         <source>zqprops: no object with handle %1</source>
-        <translation type="unfinished" />
+        <translation>zqprops: kein Objekt mit der Referenz %1</translation>
     </message>
     <message>
         <source>zqprops: cannot read script %1: %2</source>
-        <translation type="unfinished" />
+        <translation>zqprops: Skript %1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>Command:</source>
@@ -626,7 +1069,7 @@
     </message>
     <message>
         <source>zqprops: SAVE needs a file name (or -o).</source>
-        <translation type="unfinished" />
+        <translation>zqprops: SAVE braucht einen Dateinamen (oder -o).</translation>
     </message>
     <message>
         <source>Saved %1.</source>
@@ -634,7 +1077,43 @@
     </message>
     <message>
         <source>%1 is the input drawing; name it with -o to overwrite it.</source>
-        <translation type="unfinished" />
+        <translation>%1 ist die Eingabezeichnung; geben Sie sie mit -o an, um sie zu überschreiben.</translation>
+    </message>
+    <message>
+        <source>zqprops: %1: %2 is read-only.</source>
+        <translation>zqprops: %1: %2 ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>zqprops: no object has a property named "%1".</source>
+        <translation>zqprops: kein Objekt hat eine Eigenschaft namens "%1".</translation>
+    </message>
+    <message>
+        <source>zqprops: --vertex: none of the objects has vertices.</source>
+        <translation>zqprops: --vertex: keines der Objekte hat Scheitelpunkte.</translation>
+    </message>
+    <message>
+        <source>Refuse a drawing that reading would warn about (a coordinate that is not a number, a repair).</source>
+        <translation>Eine Zeichnung ablehnen, bei deren Lesen eine Warnung käme (eine Koordinate, die keine Zahl ist, eine Reparatur).</translation>
+    </message>
+    <message>
+        <source>zqprops: there is no translation catalog for the language "%1"; messages stay in English.</source>
+        <translation>zqprops: für die Sprache "%1" gibt es keinen Übersetzungskatalog; die Meldungen bleiben englisch.</translation>
+    </message>
+    <message>
+        <source>zqprops: give either -o FILE or --in-place, not both.</source>
+        <translation>zqprops: geben Sie entweder -o DATEI oder --in-place an, nicht beides.</translation>
+    </message>
+    <message>
+        <source>zqprops: nothing saved: give -o FILE or --in-place</source>
+        <translation>zqprops: nichts gespeichert: geben Sie -o DATEI oder --in-place an</translation>
+    </message>
+    <message>
+        <source>zqprops: --save-as takes one of %1, not "%2".</source>
+        <translation>zqprops: --save-as nimmt eines von %1, nicht "%2".</translation>
+    </message>
+    <message>
+        <source>zqprops: --vertex takes a vertex number from 1 on, not "%1".</source>
+        <translation>zqprops: --vertex nimmt eine Scheitelpunktnummer ab 1, nicht "%1".</translation>
     </message>
 </context>
 </TS>

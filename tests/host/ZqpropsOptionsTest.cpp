@@ -8,24 +8,10 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include "ZqTestSupport.h"
+#include "ZqpropsRun.h"
 
 namespace {
 
-struct ProgramResult {
-  int code = -1;
-  QString out, err;
-};
-
-ProgramResult zqprops(const QStringList& args, const QByteArray& input = {}) {
-  QProcess p;
-  p.setProgram(QString(ZQ_BINARY_DIR) + "/bin/zqprops");
-  p.setArguments(args);
-  p.start();
-  if (!input.isEmpty()) p.write(input);
-  p.closeWriteChannel();
-  p.waitForFinished(120000);
-  return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
-}
 
 QByteArray bytesOf(const QString& path) {
   QFile f(path);
@@ -71,19 +57,19 @@ class ZqpropsOptionsTest : public ::testing::Test {
 
 TEST_F(ZqpropsOptionsTest, SetWithoutATargetIsRefusedBeforeAnythingHappens) {
   const QByteArray before = bytesOf(input);
-  const ProgramResult r = zqprops({input, "--set", "Color=1"});
+  const ProgramRun r = zqprops({input, "--set", "Color=1"});
   EXPECT_EQ(r.code, 2);
   EXPECT_EQ(r.err.trimmed(), "zqprops: nothing saved: give -o FILE or --in-place");
   EXPECT_EQ(bytesOf(input), before);
 
-  const ProgramResult inPlace = zqprops({input, "--handle", handles[0], "--set", "Color=3", "--in-place"});
+  const ProgramRun inPlace = zqprops({input, "--handle", handles[0], "--set", "Color=3", "--in-place"});
   ASSERT_EQ(inPlace.code, 0) << inPlace.err.toStdString();
   EXPECT_EQ(ezdxf(input, "print(doc.entitydb['" + handles[0] + "'].dxf.color)"), "3");
   EXPECT_EQ(zqprops({input, "--set", "Color=1", "--in-place", "-o", out}).code, 2);
 }
 
 TEST_F(ZqpropsOptionsTest, LineweightsPastThirtyTwoBitsAreRefusedNotWrapped) {
-  const ProgramResult r = zqprops({input, "--handle", handles[0], "--set", "Lineweight=4294967301", "--set", "Color=2", "-o", out});
+  const ProgramRun r = zqprops({input, "--handle", handles[0], "--set", "Lineweight=4294967301", "--set", "Color=2", "-o", out});
   EXPECT_EQ(r.code, 1);
   EXPECT_TRUE(r.err.contains("\"4294967301\" is not a lineweight")) << r.err.toStdString();
   // The refused edit changed nothing; the accepted one was saved.
@@ -91,7 +77,7 @@ TEST_F(ZqpropsOptionsTest, LineweightsPastThirtyTwoBitsAreRefusedNotWrapped) {
 }
 
 TEST_F(ZqpropsOptionsTest, ReleaseLimitsAndSaveAs) {
-  ProgramResult r = zqprops({input, "--handle", handles[0], "--set", "Transparency=40", "-o", out});
+  ProgramRun r = zqprops({input, "--handle", handles[0], "--set", "Transparency=40", "-o", out});
   EXPECT_EQ(r.code, 1);
   EXPECT_TRUE(r.err.contains("Transparency needs a drawing saved as R2004 or later; this drawing is R2000.")) << r.err.toStdString();
 
@@ -116,14 +102,14 @@ TEST_F(ZqpropsOptionsTest, SaveAsAReleaseOfUtf8TextReencodesTheText) {
               "doc.saveas(sys.argv[1], encoding='cp1252')\n",
               {latin});
   ASSERT_TRUE(bytesOf(latin).contains("Stra\xdf" "e"));
-  const ProgramResult r = zqprops({latin, "--save-as", "R2018", "-o", out});
+  const ProgramRun r = zqprops({latin, "--save-as", "R2018", "-o", out});
   ASSERT_EQ(r.code, 0) << r.err.toStdString();
   EXPECT_TRUE(bytesOf(out).contains("Stra\xc3\x9f" "e"));
   EXPECT_EQ(ezdxf(out, "print(doc.dxfversion, [e.dxf.layer for e in doc.modelspace()][0])"), "AC1032 Straße");
 }
 
 TEST_F(ZqpropsOptionsTest, PlotStyleNamesAreCheckedWhenSetAndOtherEditsSurvive) {
-  ProgramResult r = zqprops({input, "--handle", handles[0], "--set", "Plot style=Normal", "--set", "Color=4", "-o", out});
+  ProgramRun r = zqprops({input, "--handle", handles[0], "--set", "Plot style=Normal", "--set", "Color=4", "-o", out});
   EXPECT_EQ(r.code, 1);
   EXPECT_TRUE(r.err.contains("This drawing plots by colour")) << r.err.toStdString();
   EXPECT_EQ(ezdxf(out, "print(doc.entitydb['" + handles[0] + "'].dxf.color)"), "4");
@@ -146,7 +132,7 @@ TEST_F(ZqpropsOptionsTest, PlotStyleNamesAreCheckedWhenSetAndOtherEditsSurvive) 
 
 TEST_F(ZqpropsOptionsTest, LockedLayersNeedForce) {
   const QString line = handles[1];
-  ProgramResult r = zqprops({input, "--handle", line, "--set", "Color=1", "-o", out});
+  ProgramRun r = zqprops({input, "--handle", line, "--set", "Color=1", "-o", out});
   EXPECT_EQ(r.code, 1);
   EXPECT_TRUE(r.err.contains(QString("zqprops: %1: Color: The object is on a locked layer.\n").arg(line))) << r.err.toStdString();
   r = zqprops({input, "--handle", line, "--set", "Layer=0", "-o", out});
@@ -173,13 +159,13 @@ TEST_F(ZqpropsOptionsTest, VertexNavigationEditsTheChosenVertexOnly) {
       {"-PROPERTIES", {input}, script, dir.filePath("script.dxf")},
   };
   for (const Case& c : cases) {
-    const ProgramResult r = zqprops(c.args, c.input);
+    const ProgramRun r = zqprops(c.args, c.input);
     ASSERT_EQ(r.code, 0) << c.label << ": " << r.err.toStdString();
     EXPECT_EQ(ezdxf(c.saved, "print([tuple(p[:2]) for p in doc.entitydb['" + pl + "'].get_points()])"),
               "[(0.0, 0.0), (10.0, 0.0), (77.0, 5.0), (30.0, 0.0), (40.0, 10.0)]")
         << c.label;
   }
-  const ProgramResult r = zqprops({input, "--handle", pl, "--vertex", "9", "--set", "Vertex X=1", "-o", dir.filePath("nine.dxf")});
+  const ProgramRun r = zqprops({input, "--handle", pl, "--vertex", "9", "--set", "Vertex X=1", "-o", dir.filePath("nine.dxf")});
   EXPECT_EQ(r.code, 2);
   EXPECT_TRUE(r.err.contains("\"9\" is not one of the choices of Vertex: 1, 2, 3, 4, 5.")) << r.err.toStdString();
   EXPECT_FALSE(QFile::exists(dir.filePath("nine.dxf")));
@@ -193,7 +179,7 @@ TEST_F(ZqpropsOptionsTest, RefusalsAreSentencesWithoutCodes) {
       {"Transparency=95", "Transparency must be ByLayer, ByBlock or a whole percentage from 0 to 90."},
   };
   for (const auto& c : cases) {
-    const ProgramResult r = zqprops({input, "--handle", handles[0], "--set", c.set, "-o", out});
+    const ProgramRun r = zqprops({input, "--handle", handles[0], "--set", c.set, "-o", out});
     EXPECT_EQ(r.code, 1) << c.set;
     EXPECT_TRUE(r.err.contains(c.sentence)) << r.err.toStdString();
     EXPECT_FALSE(r.err.contains("5001") || r.err.contains("5100") || r.err.contains("refused (")) << r.err.toStdString();
@@ -201,7 +187,7 @@ TEST_F(ZqpropsOptionsTest, RefusalsAreSentencesWithoutCodes) {
 }
 
 TEST_F(ZqpropsOptionsTest, UnknownLanguageWarnsAndGoesOnInEnglish) {
-  const ProgramResult r = zqprops({input, "--lang", "xx", "--handle", handles[0], "--list"});
+  const ProgramRun r = zqprops({input, "--lang", "xx", "--handle", handles[0], "--list"});
   EXPECT_EQ(r.code, 0);
   EXPECT_TRUE(r.err.contains("there is no translation catalog for the language \"xx\"; messages stay in English.")) << r.err.toStdString();
   EXPECT_TRUE(r.out.contains("General/Color")) << r.out.toStdString();

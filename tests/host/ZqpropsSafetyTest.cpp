@@ -9,27 +9,13 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include "ZqTestSupport.h"
+#include "ZqpropsRun.h"
 
 #include <cerrno>
 #include <cstring>
 
 namespace {
 
-struct ProgramRun {
-  int code = -1;
-  bool crashed = false;
-  QString out, err;
-};
-
-ProgramRun runProgram(const QString& program, const QStringList& args) {
-  QProcess p;
-  p.start(program, args);
-  p.waitForFinished(120000);
-  return {p.exitCode(), p.exitStatus() != QProcess::NormalExit, QString::fromUtf8(p.readAllStandardOutput()),
-          QString::fromUtf8(p.readAllStandardError())};
-}
-QString zqpropsPath() { return QString(ZQ_BINARY_DIR) + "/bin/zqprops"; }
-ProgramRun zqprops(const QStringList& args) { return runProgram(zqpropsPath(), args); }
 
 QByteArray readAll(const QString& path) {
   QFile f(path);

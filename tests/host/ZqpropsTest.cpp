@@ -9,24 +9,10 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include "ZqTestSupport.h"
+#include "ZqpropsRun.h"
 
 namespace {
 
-struct ProgramRun {
-  int code = -1;
-  QString out, err;
-};
-
-ProgramRun zqprops(const QStringList& args, const QByteArray& input = {}) {
-  QProcess p;
-  p.setProgram(QString(ZQ_BINARY_DIR) + "/bin/zqprops");
-  p.setArguments(args);
-  p.start();
-  if (!input.isEmpty()) p.write(input);
-  p.closeWriteChannel();
-  p.waitForFinished(120000);
-  return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
-}
 
 const QString kDemo = QString(ZQ_SOURCE_DIR) + "/samples/demo.dxf";
 

@@ -4,6 +4,8 @@
 #include "DbPlainClasses.h"
 #include "DxfMapping.h"
 #include "OdResBuf.h"
+#include "DbRelease.h"
+#include <QCoreApplication>
 
 #include <string_view>
 #include <unordered_map>
@@ -121,6 +123,14 @@ void writeTrueColor(RecordIO& io, const OdCmColor& c) {
   io.remove(430);  // a colour book name belongs to the colour replaced
 }
 
+// A value the file's release has no group for cannot be saved: the save is
+// refused (the old file stays whole) rather than the value dropped.
+[[noreturn]] void refuseForRelease(const RecordIO& io, const char* what, int release) {
+  throw MapError{QCoreApplication::translate("OdDxf", "%1 needs a drawing saved as %2 or later; this one is saved as %3.")
+                     .arg(QCoreApplication::translate("OdDxf", what), OdDb::releaseName(release),
+                          OdDb::releaseName(io.ctx().release))};
+}
+
 namespace {
 
 OdDbObjectId effectiveLinetype(Context& ctx, const OdDbObjectId& id) {
@@ -192,6 +202,11 @@ void entityCommonFields(RecordIO& io, OdDbEntity* e, const OdDbEntity* before) {
 
   if (io.reading() || io.supports(1015))
     f.integer(370, &OdDbEntity::lineWeight, &OdDbEntity::setLineWeight, OdDb::kLnWtByLayer, Opt::Optional);
+  else if (create ? e->lineWeight() != OdDb::kLnWtByLayer : e->lineWeight() != before->lineWeight())
+    refuseForRelease(io, QT_TRANSLATE_NOOP("OdDxf", "Lineweight"), 1015);
+  if (!io.reading() && !io.supports(1012) &&
+      (create ? e->linetypeScale() != 1.0 : e->linetypeScale() != before->linetypeScale()))
+    refuseForRelease(io, QT_TRANSLATE_NOOP("OdDxf", "Linetype scale"), 1012);
   if (io.reading() || io.supports(1012)) {
     f.real(48, &OdDbEntity::linetypeScale, &OdDbEntity::setLinetypeScale, 1.0, Opt::Optional);
     f.integer(
@@ -201,6 +216,7 @@ void entityCommonFields(RecordIO& io, OdDbEntity* e, const OdDbEntity* before) {
 
   if (!io.reading()) {
     if (colorChanged) {
+      if (e->color().isByColor() && !io.supports(1018)) refuseForRelease(io, QT_TRANSLATE_NOOP("OdDxf", "A true colour"), 1018);
       writeTrueColor(io, e->color());
     } else {
       io.skip(420);
@@ -216,6 +232,8 @@ void entityCommonFields(RecordIO& io, OdDbEntity* e, const OdDbEntity* before) {
       io.remove(440);
     else if (io.supports(1018))
       io.putInteger(440, e->transparency().packed());
+    else
+      refuseForRelease(io, QT_TRANSLATE_NOOP("OdDxf", "Transparency"), 1018);
   } else {
     io.skip(440);
   }
