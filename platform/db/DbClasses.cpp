@@ -42,6 +42,15 @@ ODDB_DEFINE_CREATE(OdDbTextStyleTableRecord)
 ODDB_DEFINE_CREATE(OdDbDimStyleTableRecord)
 ODDB_DEFINE_CREATE(OdDbRegAppTableRecord)
 ODDB_DEFINE_CREATE(OdDbBlockTableRecord)
+ODDB_DEFINE_CREATE(OdDb3dSolid)
+ODDB_DEFINE_CREATE(OdDbBody)
+ODDB_DEFINE_CREATE(OdDbRegion)
+ODDB_DEFINE_CREATE(OdDbSurface)
+ODDB_DEFINE_CREATE(OdDbPlaneSurface)
+ODDB_DEFINE_CREATE(OdDbExtrudedSurface)
+ODDB_DEFINE_CREATE(OdDbRevolvedSurface)
+ODDB_DEFINE_CREATE(OdDbSweptSurface)
+ODDB_DEFINE_CREATE(OdDbLoftedSurface)
 
 #define ODDB_DEFINE_TABLE(Table, Record)                                                  \
   OdSmartPtr<Table> Table::createObject() { return OdSmartPtr<Table>(new Table()); }      \

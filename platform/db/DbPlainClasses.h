@@ -17,6 +17,7 @@
 #include "DbSymbolTable.h"
 #include "DbDimStyle.h"
 #include "DbDimension.h"
+#include "DbModelerGeometry.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

@@ -43,6 +43,14 @@ class OdDbAttribute;
 class OdDbAttributeDefinition;
 class OdDbMText;
 class OdDbDimension;
+class OdDb3dSolid;
+class OdDbBody;
+class OdDbRegion;
+class OdDbSurface;
+class OdDbExtrudedSurface;
+class OdDbRevolvedSurface;
+class OdDbSweptSurface;
+class OdDbLoftedSurface;
 
 namespace OdDxf::mapping {
 
@@ -396,6 +404,16 @@ void attribFields(Fields<OdDbAttribute>& f);
 void mtextFields(Fields<OdDbMText>& f);
 // What every dimension kind has: its style (DxfText.cpp).
 void dimensionFields(Fields<OdDbDimension>& f);
+// Solids, bodies, regions and surfaces: modeller data, history, surface
+// parameters (DxfSolids.cpp).
+void solidFields(Fields<OdDb3dSolid>& f);
+void bodyFields(Fields<OdDbBody>& f);
+void regionFields(Fields<OdDbRegion>& f);
+void surfaceFields(Fields<OdDbSurface>& f);
+void extrudedSurfaceFields(Fields<OdDbExtrudedSurface>& f);
+void revolvedSurfaceFields(Fields<OdDbRevolvedSurface>& f);
+void sweptSurfaceFields(Fields<OdDbSweptSurface>& f);
+void loftedSurfaceFields(Fields<OdDbLoftedSurface>& f);
 // DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
 void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 
