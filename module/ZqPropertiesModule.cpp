@@ -121,6 +121,11 @@ void CZqPropertiesModule::startUp(ZqUndoLog& log) {
   for (size_t i : order.infos) attach(log, rows[i].drawingClass, CZqPrintObjectInfoPE::desc(), rows[i].info);
   // 9. Providers under a protocol of their own.
   for (size_t i : order.own) attach(log, rows[i].drawingClass, rows[i].ownProtocol(), rows[i].provider);
+  // 10. The solid-primitive provider classes, which the solid provider
+  // chooses among per object.
+#define ZQ_PRIMITIVE_CLASS(Provider, Parent, DrawingClass, RegisterPosition) \
+  registerClass(log, &Provider::rxInit, &Provider::rxUninit);
+#include "ZqProviders.def"
   // 11-12. The host's drawing-view provider class, and the command.
   registerClass(log, &CZqDrawingViewPE::rxInit, &CZqDrawingViewPE::rxUninit);
   log.run([this] { odedRegCmds()->addCommand(&m_command); }, [this] { odedRegCmds()->removeCmd(&m_command); });
@@ -159,4 +164,7 @@ void CZqPropertiesModule::uninitApp() {
   CZqPropertyPEClassFactory::destroy();
   CZqPrintObjectInfoPE::rxUninit();
   CZqDrawingViewPE::rxUninit();
+  // 10. The solid-primitive classes in their start-up order.
+#define ZQ_PRIMITIVE_CLASS(Provider, Parent, DrawingClass, RegisterPosition) Provider::rxUninit();
+#include "ZqProviders.def"
 }

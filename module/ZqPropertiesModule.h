@@ -13,6 +13,7 @@
 #include "Ray.h"
 #include "Text.h"
 #include "Xline.h"
+#include "Solids.h"
 
 #include <vector>
 

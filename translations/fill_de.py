@@ -196,6 +196,24 @@ DE.setdefault("OdDxf", {}).update({
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []
+# 3D solids, regions and surfaces.
+DE.setdefault("entity_types", {}).update({"3D Solid": "3D-Volumenkörper", "Body": "Körper", "Region": "Region",
+    "Surface (Planar)": "Fläche (eben)", "Surface (Extrusion)": "Fläche (Extrusion)",
+    "Surface (Revolve)": "Fläche (Rotation)", "Surface (Sweep)": "Fläche (Sweep)", "Surface (Loft)": "Fläche (Erhebung)"})
+DE.setdefault("property_types", {}).update({"Solid type": "Volumenkörpertyp", "Position X": "Position X",
+    "Position Y": "Position Y", "Position Z": "Position Z", "Length": "Länge", "Width": "Breite", "Height": "Höhe",
+    "Rotation": "Drehung", "Elliptical": "Elliptisch", "Major radius": "Hauptradius", "Minor radius": "Nebenradius",
+    "Radius": "Radius", "Base radius": "Basisradius", "Top radius": "Oberer Radius", "Perimeter": "Umfang",
+    "Area": "Fläche", "U isolines": "U-Isolinien", "V isolines": "V-Isolinien", "Surface type": "Flächentyp",
+    "Surface Type": "Flächentyp", "Diameter": "Durchmesser", "Closed": "Geschlossen"})
+DE.setdefault("property_values", {}).update({"Box": "Quader", "Cylinder": "Zylinder", "Cone": "Kegel",
+    "Pyramid": "Pyramide", "Sphere": "Kugel", "Torus": "Torus", "Wedge": "Keil", "Extrude": "Extrusion",
+    "Revolve": "Rotation", "Sweep": "Sweep", "Planar": "Eben", "Extruded": "Extrudiert",
+    "Loft with guide curves": "Erhebung mit Führungskurven"})
+DE.setdefault("errors", {}).update({
+    "The solid's position is not known, so it cannot be moved.":
+        "Die Position des Volumenkörpers ist unbekannt, daher kann er nicht verschoben werden."})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

@@ -76,7 +76,9 @@ class Sat {
         rec.at.push_back(start);
       }
     }
-    return ended && rec.type.isEmpty();
+    // Older data ends with its last record; newer data with an end marker.
+    (void)ended;
+    return rec.type.isEmpty() && !m_records.empty();
   }
 
   int version() const { return m_version; }
