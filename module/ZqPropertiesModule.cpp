@@ -160,11 +160,12 @@ void CZqPropertiesModule::uninitApp() {
     OdRxClass* cls = r.row >= 0 ? rows[size_t(r.row)].drawingClass : kExtraInfoRemovals[r.extra]();
     cls->delX(CZqPrintObjectInfoPE::desc());
   }
-  // 8-11. The factory, the information protocol, the drawing-view class.
+  // 8-9. The factory and the information protocol.
   CZqPropertyPEClassFactory::destroy();
   CZqPrintObjectInfoPE::rxUninit();
-  CZqDrawingViewPE::rxUninit();
   // 10. The solid-primitive classes in their start-up order.
 #define ZQ_PRIMITIVE_CLASS(Provider, Parent, DrawingClass, RegisterPosition) Provider::rxUninit();
 #include "ZqProviders.def"
+  // 11. The drawing-view class.
+  CZqDrawingViewPE::rxUninit();
 }
