@@ -193,6 +193,22 @@ DE.setdefault("OdDxf", {}).update({
     "Linetype scale": "Der Linientypfaktor",
 })
 
+# Curves: arcs and ellipses.
+DE.setdefault("CZqArcPE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("CZqEllipsePE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({"Arc": "Bogen", "Ellipse": "Ellipse"})
+DE.setdefault("property_types", {}).update({
+    "Start angle": "Startwinkel", "End angle": "Endwinkel", "Total angle": "Gesamtwinkel", "Arc length": "Bogenlänge",
+    "Major radius": "Hauptradius", "Minor radius": "Nebenradius", "Radius ratio": "Radienverhältnis",
+    "Major axis X": "Hauptachse X", "Major axis Y": "Hauptachse Y", "Major axis Z": "Hauptachse Z",
+    "Start parameter": "Startparameter", "End parameter": "Endparameter"})
+DE.setdefault("info_items", {}).update({
+    "Start angle": "Startwinkel", "End angle": "Endwinkel", "Total angle": "Gesamtwinkel", "Major axis": "Hauptachse",
+    "Minor axis": "Nebenachse", "Radius ratio": "Radienverhältnis"})
+DE.setdefault("errors", {}).update({
+    "Minor radius must not be greater than the major radius": "Der Nebenradius darf nicht größer als der Hauptradius sein",
+    "Radius ratio must be greater than 0 and at most 1": "Das Radienverhältnis muss größer als 0 und höchstens 1 sein"})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []
