@@ -12,8 +12,10 @@
 #include "Line.h"
 #include "Point.h"
 #include "Polyline.h"
+#include "Polyline2d.h"
 #include "Ray.h"
 #include "Text.h"
+#include "Vertex.h"
 #include "Xline.h"
 
 #include <vector>

@@ -209,6 +209,16 @@ DE.setdefault("errors", {}).update({
     "Minor radius must not be greater than the major radius": "Der Nebenradius darf nicht größer als der Hauptradius sein",
     "Radius ratio must be greater than 0 and at most 1": "Das Radienverhältnis muss größer als 0 und höchstens 1 sein"})
 
+# Curves: 2D polylines and their vertices.
+DE.setdefault("CZq2dPolylinePE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({"2D Polyline": "2D-Polylinie", "Vertex": "Scheitelpunkt"})
+DE.setdefault("property_types", {}).update({"Fit/Smooth": "Kurvenlinie/Glätten", "Bulge": "Wölbung"})
+DE.setdefault("property_values", {}).update({
+    "None": "Keine", "Curve fit": "Kurvenangleichung", "Quadratic": "Quadratisch", "Cubic": "Kubisch"})
+DE.setdefault("info_items", {}).update({"Fit/Smooth": "Kurvenlinie/Glätten"})
+DE.setdefault("errors", {}).update({
+    "There is no vertex %1: the object has %2 vertices.": "Es gibt keinen Scheitelpunkt %1: das Objekt hat %2 Scheitelpunkte."})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []
