@@ -219,6 +219,23 @@ DE.setdefault("info_items", {}).update({"Fit/Smooth": "Kurvenlinie/Glätten"})
 DE.setdefault("errors", {}).update({
     "There is no vertex %1: the object has %2 vertices.": "Es gibt keinen Scheitelpunkt %1: das Objekt hat %2 Scheitelpunkte."})
 
+# Curves: splines.
+DE.setdefault("CZqSplinePE_Prop", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({"Spline": "Spline"})
+DE.setdefault("property_types", {}).update({
+    "Degree": "Grad", "Control point": "Kontrollpunkt", "Control point X": "Kontrollpunkt X",
+    "Control point Y": "Kontrollpunkt Y", "Control point Z": "Kontrollpunkt Z", "Weight": "Gewichtung",
+    "Number of control points": "Anzahl Kontrollpunkte", "Number of fit points": "Anzahl Anpassungspunkte",
+    "Fit tolerance": "Anpassungstoleranz", "Periodic": "Periodisch", "Rational": "Rational"})
+DE.setdefault("info_items", {}).update({
+    "Degree": "Grad", "Closed": "Geschlossen", "Periodic": "Periodisch", "Rational": "Rational",
+    "Number of control points": "Anzahl Kontrollpunkte", "Control Point %1": "Kontrollpunkt %1",
+    "Number of fit points": "Anzahl Anpassungspunkte", "Fit Point %1": "Anpassungspunkt %1"})
+DE.setdefault("errors", {}).update({
+    "Degree must be a whole number from 1 to 10": "Der Grad muss eine ganze Zahl von 1 bis 10 sein",
+    "The degree of a spline without fit points cannot be changed": "Der Grad eines Splines ohne Anpassungspunkte kann nicht geändert werden",
+    "The degree must be lower than the number of fit points": "Der Grad muss kleiner als die Anzahl der Anpassungspunkte sein"})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []

@@ -1,4 +1,4 @@
-// Every arc, ellipse and 2D polyline of the sample drawings, in every
+// Every arc, ellipse, 2D polyline and spline of the sample drawings, in every
 // block (model and paper space and block definitions): its own provider
 // serves it with its own rows, and it lists its own information lines.
 #include "ZqTestSupport.h"
@@ -17,6 +17,7 @@ const Kind kKinds[] = {
     {&OdDbArc::desc, "CZqArcPE", "Arc length", "Total angle"},
     {&OdDbEllipse::desc, "CZqEllipsePE", "Major radius", "Radius ratio"},
     {&OdDb2dPolyline::desc, "CZq2dPolylinePE", "Length", "Perimeter"},
+    {&OdDbSpline::desc, "CZqSplinePE_Prop", "Length", "Degree"},
 };
 
 std::vector<std::string> samples() {
