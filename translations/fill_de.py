@@ -193,6 +193,49 @@ DE.setdefault("OdDxf", {}).update({
     "Linetype scale": "Der Linientypfaktor",
 })
 
+# Curves: arcs and ellipses.
+DE.setdefault("CZqArcPE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("CZqEllipsePE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({"Arc": "Bogen", "Ellipse": "Ellipse"})
+DE.setdefault("property_types", {}).update({
+    "Start angle": "Startwinkel", "End angle": "Endwinkel", "Total angle": "Gesamtwinkel", "Arc length": "Bogenlänge",
+    "Major radius": "Hauptradius", "Minor radius": "Nebenradius", "Radius ratio": "Radienverhältnis",
+    "Major axis X": "Hauptachse X", "Major axis Y": "Hauptachse Y", "Major axis Z": "Hauptachse Z",
+    "Start parameter": "Startparameter", "End parameter": "Endparameter"})
+DE.setdefault("info_items", {}).update({
+    "Start angle": "Startwinkel", "End angle": "Endwinkel", "Total angle": "Gesamtwinkel", "Major axis": "Hauptachse",
+    "Minor axis": "Nebenachse", "Radius ratio": "Radienverhältnis"})
+DE.setdefault("errors", {}).update({
+    "Minor radius must not be greater than the major radius": "Der Nebenradius darf nicht größer als der Hauptradius sein",
+    "Radius ratio must be greater than 0 and at most 1": "Das Radienverhältnis muss größer als 0 und höchstens 1 sein"})
+
+# Curves: 2D polylines and their vertices.
+DE.setdefault("CZq2dPolylinePE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({"2D Polyline": "2D-Polylinie", "Vertex": "Scheitelpunkt"})
+DE.setdefault("property_types", {}).update({"Fit/Smooth": "Kurvenlinie/Glätten", "Bulge": "Wölbung"})
+DE.setdefault("property_values", {}).update({
+    "None": "Keine", "Curve fit": "Kurvenangleichung", "Quadratic": "Quadratisch", "Cubic": "Kubisch"})
+DE.setdefault("info_items", {}).update({"Fit/Smooth": "Kurvenlinie/Glätten"})
+DE.setdefault("errors", {}).update({
+    "There is no vertex %1: the object has %2 vertices.": "Es gibt keinen Scheitelpunkt %1: das Objekt hat %2 Scheitelpunkte."})
+
+# Curves: splines.
+DE.setdefault("CZqSplinePE_Prop", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({"Spline": "Spline"})
+DE.setdefault("property_types", {}).update({
+    "Degree": "Grad", "Control point": "Kontrollpunkt", "Control point X": "Kontrollpunkt X",
+    "Control point Y": "Kontrollpunkt Y", "Control point Z": "Kontrollpunkt Z", "Weight": "Gewichtung",
+    "Number of control points": "Anzahl Kontrollpunkte", "Number of fit points": "Anzahl Anpassungspunkte",
+    "Fit tolerance": "Anpassungstoleranz", "Periodic": "Periodisch", "Rational": "Rational"})
+DE.setdefault("info_items", {}).update({
+    "Degree": "Grad", "Closed": "Geschlossen", "Periodic": "Periodisch", "Rational": "Rational",
+    "Number of control points": "Anzahl Kontrollpunkte", "Control Point %1": "Kontrollpunkt %1",
+    "Number of fit points": "Anzahl Anpassungspunkte", "Fit Point %1": "Anpassungspunkt %1"})
+DE.setdefault("errors", {}).update({
+    "Degree must be a whole number from 1 to 10": "Der Grad muss eine ganze Zahl von 1 bis 10 sein",
+    "The degree of a spline without fit points cannot be changed": "Der Grad eines Splines ohne Anpassungspunkte kann nicht geändert werden",
+    "The degree must be lower than the number of fit points": "Der Grad muss kleiner als die Anzahl der Anpassungspunkte sein"})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []

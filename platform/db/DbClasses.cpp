@@ -24,6 +24,7 @@ constexpr OdPseudoConstructorType pseudoConstructor() {
   OdSmartPtr<Class> Class::createObject() { return OdSmartPtr<Class>(new Class()); }
 ODDB_DEFINE_CREATE(OdDbLine)
 ODDB_DEFINE_CREATE(OdDbCircle)
+ODDB_DEFINE_CREATE(OdDbArc)
 ODDB_DEFINE_CREATE(OdDbEllipse)
 ODDB_DEFINE_CREATE(OdDbSpline)
 ODDB_DEFINE_CREATE(OdDbPolyline)

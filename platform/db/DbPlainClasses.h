@@ -5,6 +5,7 @@
 // such objects whole.
 #include "DbLine.h"
 #include "DbCircle.h"
+#include "DbArc.h"
 #include "DbEllipse.h"
 #include "DbSpline.h"
 #include "DbPolyline.h"

@@ -348,6 +348,7 @@ namespace {
 constexpr ClassMapping kEntities[] = {
     {"LINE",       &OdDbLine::desc,        0,    &fieldsOf<OdDbLine, lineFields>,                   false},
     {"CIRCLE",     &OdDbCircle::desc,      0,    &fieldsOf<OdDbCircle, circleFields>,               false},
+    {"ARC",        &OdDbArc::desc,         0,    &fieldsOf<OdDbArc, arcFields>,                     false},
     {"ELLIPSE",    &OdDbEllipse::desc,     1012, &fieldsOf<OdDbEllipse, ellipseFields>,             false},
     {"SPLINE",     &OdDbSpline::desc,      1012, &fieldsOf<OdDbSpline, splineFields>,               false},
     {"LWPOLYLINE", &OdDbPolyline::desc,    1014, &fieldsOf<OdDbPolyline, lwpolylineFields>,         false},

@@ -30,6 +30,7 @@
 
 class OdDbLine;
 class OdDbCircle;
+class OdDbArc;
 class OdDbEllipse;
 class OdDbSpline;
 class OdDbPolyline;
@@ -390,6 +391,7 @@ struct ClassMapping {
 // The fields of the classes whose data is mapped (DxfCurves.cpp).
 void lineFields(Fields<OdDbLine>& f);
 void circleFields(Fields<OdDbCircle>& f);
+void arcFields(Fields<OdDbArc>& f);
 void ellipseFields(Fields<OdDbEllipse>& f);
 void splineFields(Fields<OdDbSpline>& f);
 void lwpolylineFields(Fields<OdDbPolyline>& f);
