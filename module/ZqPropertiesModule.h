@@ -8,6 +8,7 @@
 #include "ZqLifecycle.h"
 #include "Circle.h"
 #include "Line.h"
+#include "MText.h"
 #include "Point.h"
 #include "Polyline.h"
 #include "Ray.h"
