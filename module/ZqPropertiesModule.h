@@ -10,6 +10,7 @@
 #include "Circle.h"
 #include "Ellipse.h"
 #include "Line.h"
+#include "MText.h"
 #include "Point.h"
 #include "Polyline.h"
 #include "Polyline2d.h"

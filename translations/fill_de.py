@@ -235,6 +235,31 @@ DE.setdefault("errors", {}).update({
     "Degree must be a whole number from 1 to 10": "Der Grad muss eine ganze Zahl von 1 bis 10 sein",
     "The degree of a spline without fit points cannot be changed": "Der Grad eines Splines ohne Anpassungspunkte kann nicht geändert werden",
     "The degree must be lower than the number of fit points": "Der Grad muss kleiner als die Anzahl der Anpassungspunkte sein"})
+# Multiline text: rows, choices, information lines and its refusal.
+DE.setdefault("entity_types", {}).update({"MText": "MText"})
+DE.setdefault("property_groups", {}).update({"Columns": "Spalten"})
+DE.setdefault("property_types", {}).update({
+    "Plain text": "Klartext", "Direction": "Richtung", "Width": "Breite", "Line space factor": "Zeilenabstandsfaktor",
+    "Line space style": "Zeilenabstandsstil", "Background mask": "Hintergrundmaske", "Mask color": "Maskenfarbe",
+    "Use drawing background": "Zeichnungshintergrund verwenden", "Border offset": "Randabstand",
+    "Columns": "Spalten", "Column count": "Spaltenanzahl", "Column width": "Spaltenbreite",
+    "Column gutter": "Spaltenabstand", "Column height": "Spaltenhöhe"})
+DE.setdefault("property_values", {}).update({
+    "Left to right": "Links nach rechts", "Right to left": "Rechts nach links", "Top to bottom": "Oben nach unten",
+    "Bottom to top": "Unten nach oben", "By style": "Nach Stil", "At least": "Mindestens", "Exactly": "Genau",
+    "None": "Keine", "Static": "Statisch", "Dynamic": "Dynamisch"})
+DE.setdefault("info_items", {}).update({
+    "Location": "Einfügepunkt", "Attachment": "Ausrichtung", "Direction": "Richtung", "width": "Breite",
+    "line spacing factor": "Zeilenabstandsfaktor"})
+DE.setdefault("info_values", {}).update({
+    "Top Left": "Oben links", "Top Center": "Oben zentriert", "Top Right": "Oben rechts",
+    "Middle Left": "Mitte links", "Middle Center": "Mitte zentriert", "Middle Right": "Mitte rechts",
+    "Bottom Left": "Unten links", "Bottom Center": "Unten zentriert", "Bottom Right": "Unten rechts",
+    "Left to right": "Links nach rechts", "Right to left": "Rechts nach links", "Top to bottom": "Oben nach unten",
+    "Bottom to top": "Unten nach oben", "By style": "Nach Stil"})
+DE.setdefault("errors", {}).update({
+    "Multiline text can hold line breaks and tabs but no other control characters":
+        "Mehrzeiliger Text kann Zeilenumbrüche und Tabulatoren, aber keine anderen Steuerzeichen enthalten"})
 
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
