@@ -6,9 +6,14 @@
 #include <random>
 
 const QByteArray& zqBigDrawing() {
-  static const QByteArray data = [] {
+  static const QByteArray data = zqMakeBigDrawing(kEntities);
+  return data;
+}
+
+QByteArray zqMakeBigDrawing(int entities) {
+  {
     QByteArray out;
-    out.reserve(20 << 20);
+    out.reserve(qsizetype(entities) * 210 + (1 << 12));
     auto tag = [&](int code, QByteArrayView value) {
       char buf[8];
       const auto r = std::to_chars(buf, buf + sizeof buf, code);
@@ -25,7 +30,7 @@ const QByteArray& zqBigDrawing() {
     tag(9, "$ACADVER"); tag(1, "AC1015");
     tag(9, "$DWGCODEPAGE"); tag(3, "ANSI_1252");
     tag(9, "$INSUNITS"); tag(70, "     4");
-    tag(9, "$HANDSEED"); tag(5, hex(0x100 + kEntities));
+    tag(9, "$HANDSEED"); tag(5, hex(0x100 + quint64(entities)));
     tag(0, "ENDSEC");
     tag(0, "SECTION"); tag(2, "TABLES");
     auto table = [&](const char* name, quint64 h, auto&& records) {
@@ -64,7 +69,7 @@ const QByteArray& zqBigDrawing() {
     tag(0, "SECTION"); tag(2, "ENTITIES");
     static const char* const kLayers[] = {"0", "Walls", "Doors"};
     static const char* const kTypes[] = {"LINE", "CIRCLE", "LWPOLYLINE", "TEXT"};
-    for (int i = 0; i < kEntities; ++i) {
+    for (int i = 0; i < entities; ++i) {
       tag(0, kTypes[i % 4]);
       tag(5, hex(0x100 + i)); tag(330, "1F"); tag(100, "AcDbEntity"); tag(8, kLayers[i % 3]);
       switch (i % 4) {
@@ -96,6 +101,5 @@ const QByteArray& zqBigDrawing() {
     tag(0, "ENDSEC");
     tag(0, "EOF");
     return out;
-  }();
-  return data;
+  }
 }

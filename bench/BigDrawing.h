@@ -6,3 +6,5 @@
 
 constexpr int kEntities = 100000;
 const QByteArray& zqBigDrawing();
+// The same kind of drawing with any number of entities (zqmkbig writes one).
+QByteArray zqMakeBigDrawing(int entities);

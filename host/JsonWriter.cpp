@@ -1,6 +1,7 @@
 #include "JsonWriter.h"
 #include <charconv>
 #include <cmath>
+#include <cstring>
 
 void ZqJsonWriter::raw(const char* s, qsizetype n) { m_buffer.append(s, n); }
 
@@ -53,6 +54,35 @@ ZqJsonWriter& ZqJsonWriter::endArray() {
   return *this;
 }
 
+namespace {
+// Appends text as the inside of a JSON string: runs without anything to
+// escape go in one piece.
+void appendEscaped(QByteArray& buffer, const char* s, qsizetype n) {
+  static const char hex[] = "0123456789abcdef";
+  qsizetype run = 0;
+  for (qsizetype i = 0; i < n; ++i) {
+    const auto u = static_cast<unsigned char>(s[i]);
+    if (u >= 0x20 && u != '"' && u != '\\') continue;
+    buffer.append(s + run, i - run);
+    run = i + 1;
+    switch (u) {
+      case '"': buffer.append("\\\"", 2); break;
+      case '\\': buffer.append("\\\\", 2); break;
+      case '\n': buffer.append("\\n", 2); break;
+      case '\r': buffer.append("\\r", 2); break;
+      case '\t': buffer.append("\\t", 2); break;
+      case '\b': buffer.append("\\b", 2); break;
+      case '\f': buffer.append("\\f", 2); break;
+      default: {
+        const char esc[6] = {'\\', 'u', '0', '0', hex[u >> 4], hex[u & 15]};
+        buffer.append(esc, 6);
+      }
+    }
+  }
+  buffer.append(s + run, n - run);
+}
+}  // namespace
+
 ZqJsonWriter& ZqJsonWriter::key(const char* latin1Key) {
   value(latin1Key);
   m_buffer.append(':');
@@ -60,31 +90,39 @@ ZqJsonWriter& ZqJsonWriter::key(const char* latin1Key) {
   return *this;
 }
 
-ZqJsonWriter& ZqJsonWriter::value(const char* latin1) { return value(QString::fromLatin1(latin1)); }
+ZqJsonWriter& ZqJsonWriter::key(const QString& k) {
+  value(k);
+  m_buffer.append(':');
+  m_afterKey = true;
+  return *this;
+}
+
+ZqJsonWriter& ZqJsonWriter::value(const char* latin1) {
+  // Keys and fixed words are ASCII: no conversion needed.
+  separate();
+  m_buffer.append('"');
+  appendEscaped(m_buffer, latin1, qsizetype(std::strlen(latin1)));
+  m_buffer.append('"');
+  return *this;
+}
 
 ZqJsonWriter& ZqJsonWriter::value(const QString& s) {
   separate();
   m_buffer.append('"');
-  const QByteArray utf8 = s.toUtf8();
-  static const char hex[] = "0123456789abcdef";
-  for (char c : utf8) {
-    const auto u = static_cast<unsigned char>(c);
-    switch (c) {
-      case '"': raw("\\\"", 2); break;
-      case '\\': raw("\\\\", 2); break;
-      case '\n': raw("\\n", 2); break;
-      case '\r': raw("\\r", 2); break;
-      case '\t': raw("\\t", 2); break;
-      case '\b': raw("\\b", 2); break;
-      case '\f': raw("\\f", 2); break;
-      default:
-        if (u < 0x20) {
-          const char esc[6] = {'\\', 'u', '0', '0', hex[u >> 4], hex[u & 15]};
-          raw(esc, 6);
-        } else {
-          m_buffer.append(c);
-        }
-    }
+  // Most texts are ASCII: converted straight into a stack buffer.
+  char small[256];
+  const qsizetype n = s.size();
+  bool ascii = n <= qsizetype(sizeof small);
+  for (qsizetype i = 0; ascii && i < n; ++i) {
+    const char16_t c = s[i].unicode();
+    if (c >= 0x80) ascii = false;
+    else small[i] = char(c);
+  }
+  if (ascii) {
+    appendEscaped(m_buffer, small, n);
+  } else {
+    const QByteArray utf8 = s.toUtf8();
+    appendEscaped(m_buffer, utf8.constData(), utf8.size());
   }
   m_buffer.append('"');
   return *this;

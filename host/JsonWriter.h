@@ -20,6 +20,7 @@ class ZqJsonWriter {
   ZqJsonWriter& endArray();
   // The key of the next member of the current object.
   ZqJsonWriter& key(const char* latin1Key);
+  ZqJsonWriter& key(const QString& key);
 
   ZqJsonWriter& value(const QString& s);
   ZqJsonWriter& value(const char* latin1);

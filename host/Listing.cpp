@@ -1,19 +1,68 @@
 #include "Listing.h"
 #include "JsonWriter.h"
+#include "ZqSelection.h"
+#include <cmath>
 
 QString zqDisplayName(const OdDbObject* object) {
   CZqPropertyBase* pe = CZqPropertyPEClassFactory::providerFor(object);
   return pe ? pe->GetClassName(object).qstring() : QString();
 }
 
+QString zqProviderName(const OdDbObject* object) {
+  CZqPropertyBase* pe = CZqPropertyPEClassFactory::providerFor(object);
+  return pe && pe->isA() ? pe->isA()->name().qstring() : QString();
+}
+
+QString zqRowKey(const CZqPaletteRow& row) { return row.categoryKey.qstring() + '/' + row.nameKey.qstring(); }
+
+ZqRowPicker::ZqRowPicker(const QStringList& names) {
+  for (const QString& n : names) {
+    const QString t = n.trimmed();
+    if (t.isEmpty()) continue;
+    const int slash = t.indexOf('/');
+    m_names.append(slash > 0 ? Name{t.left(slash).trimmed(), t.mid(slash + 1).trimmed()} : Name{QString(), t});
+  }
+  m_used = std::make_shared<QList<bool>>(m_names.size(), false);
+}
+
+bool ZqRowPicker::picks(const CZqPaletteRow& row) const {
+  if (m_names.isEmpty()) return true;
+  auto is = [](const CZqString& key, const CZqString& shown, const QString& typed) {
+    return key.qstring().compare(typed, Qt::CaseInsensitive) == 0 || shown.qstring().compare(typed, Qt::CaseInsensitive) == 0;
+  };
+  for (int i = 0; i < m_names.size(); ++i) {
+    const Name& n = m_names[i];
+    if (!is(row.nameKey, row.name, n.name)) continue;
+    if (!n.category.isEmpty() && !is(row.categoryKey, row.category, n.category)) continue;
+    (*m_used)[i] = true;
+    return true;
+  }
+  return false;
+}
+
+QStringList ZqRowPicker::unused() const {
+  QStringList out;
+  for (int i = 0; i < m_names.size(); ++i)
+    if (!(*m_used)[i]) out << (m_names[i].category.isEmpty() ? m_names[i].name : m_names[i].category + '/' + m_names[i].name);
+  return out;
+}
+
 namespace {
 
 // The value of a row: full-precision numbers, strings, the tag of an
 // enumeration's current choice, null where there is no single value.
-void writeValue(ZqJsonWriter& w, const CZqVariant& v) {
+void writeValue(ZqJsonWriter& w, const CZqVariant& v, bool untyped = false) {
   switch (v.GetType()) {
     case CZqVariant::kVtDouble: w.value(v.GetDouble()); return;
-    case CZqVariant::kVtString: w.value(v.GetString().qstring()); return;
+    case CZqVariant::kVtString: {
+      // A computed figure some providers hand over as text (an area) is a number.
+      const QString text = v.GetString().qstring();
+      bool number = false;
+      const double d = untyped && !text.isEmpty() ? text.toDouble(&number) : 0.0;
+      if (number && std::isfinite(d)) w.value(d);
+      else w.value(text);
+      return;
+    }
     case CZqVariant::kVtInt32: w.value(int(v.GetInt32())); return;
     case CZqVariant::kVtColor: w.value(v.GetColor().description().qstring()); return;
     case CZqVariant::kVtCollection: {
@@ -23,7 +72,13 @@ void writeValue(ZqJsonWriter& w, const CZqVariant& v) {
       return;
     }
     case CZqVariant::kVtCollectionElement: writeValue(w, v.GetCollectionElement().GetTag()); return;
-    case CZqVariant::kVtId: w.value(v.GetId().getHandle().ascii().qstring()); return;
+    case CZqVariant::kVtId: {
+      // Records by name (a layer's name, not its handle); other objects by handle.
+      OdDbObjectPtr obj = v.GetId().openObject();
+      if (auto rec = OdDbSymbolTableRecord::cast(obj.get())) w.value(rec->getName().qstring());
+      else w.value(v.GetId().getHandle().ascii().qstring());
+      return;
+    }
     default: w.null(); return;
   }
 }
@@ -46,13 +101,24 @@ std::vector<CZqPaletteRow> rowsOf(OdDbDatabase* db, const OdDbObjectId& id) {
 
 QString handleOf(const OdDbObjectId& id) { return id.getHandle().ascii().qstring(); }
 
+QString layerOf(const OdDbObject* obj) {
+  const OdDbEntity* e = odrxCast<OdDbEntity>(obj);
+  return e ? e->layer().qstring() : QString();
+}
+
 }  // namespace
 
-void zqPrintRows(QTextStream& out, OdDbDatabase* db, const OdDbObjectId& id) {
-  OdDbObjectPtr obj = id.openObject();
-  out << (obj ? zqDisplayName(obj.get()) : QString("?")) << " [" << handleOf(id) << "]\n";
+void zqPrintRows(QTextStream& out, OdDbDatabase* db, const OdDbObjectId& id, const ZqRowPicker& picker) {
+  {
+    OdDbObjectPtr obj = id.openObject();
+    if (obj)
+      out << obj->isA()->dxfName().qstring() << " [" << handleOf(id) << "] " << zqDisplayName(obj.get()) << " ("
+          << zqProviderName(obj.get()) << ")\n";
+    else
+      out << "? [" << handleOf(id) << "]\n";
+  }
   for (const CZqPaletteRow& r : rowsOf(db, id))
-    out << "  " << r.ListLine() << "\n";
+    if (picker.picks(r)) out << "  " << r.ListLine() << "\n";
 }
 
 namespace {
@@ -78,21 +144,33 @@ void zqWriteListingJson(QIODevice& out, const QString& drawing, OdDbDatabase* db
   w.beginObject().key("drawing").value(drawing).key("objects").beginArray();
   for (const OdDbObjectId& id : ids) {
     w.beginObject().key("handle").value(handleOf(id));
-    if (content.rows) {
+    {
       OdDbObjectPtr obj = id.openObject();
+      const CZqObjectPlace place = CZqObjectPlace::Of(obj.get());
+      w.key("type").value(obj ? obj->isA()->dxfName().qstring() : QString());
       w.key("class").value(obj ? obj->isA()->name().qstring() : QString());
+      w.key("provider").value(zqProviderName(obj.get()));
       w.key("name").value(obj ? zqDisplayName(obj.get()) : QString());
-      obj.release();
-      w.key("rows").beginArray();
+      w.key("layer").value(layerOf(obj.get()));
+      w.key("space").value(place.space).key("block").value(place.block);
+    }
+    if (content.rows) {
+      w.key("rows").beginObject();
+      QHash<QString, int> seen;  // a key repeated within one object gets "#2", "#3", ...
       for (const CZqPaletteRow& r : rowsOf(db, id)) {
-        w.beginObject().key("category").value(r.category.qstring()).key("name").value(r.name.qstring());
+        if (!content.pick.picks(r)) continue;
+        QString key = zqRowKey(r);
+        if (const int n = ++seen[key]; n > 1) key += QStringLiteral("#%1").arg(n);
+        w.key(key).beginObject();
+        w.key("category").value(r.categoryKey.qstring()).key("name").value(r.nameKey.qstring());
+        w.key("categoryLabel").value(r.category.qstring()).key("label").value(r.name.qstring());
         w.key("type").value(r.type.GetType()).key("value");
-        if (r.varies) w.null(); else writeValue(w, r.value);
+        if (r.varies) w.null(); else writeValue(w, r.value, r.type.GetType() == CZqVariant::kVtDouble || (r.type.GetType() == 0 && r.readOnly));
         w.key("text").value(r.text.qstring()).key("readOnly").value(r.readOnly);
         if (r.sample.GetType() == CZqVariant::kVtCollection) writeChoices(w, r.sample.GetCollection());
         w.endObject();
       }
-      w.endArray();
+      w.endObject();
     }
     if (content.info) {
       w.key("lines").beginArray();

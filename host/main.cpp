@@ -2,8 +2,8 @@
 // listing of the objects of a DXF drawing, with ZQProperties loaded as the
 // CAD host loads it.
 //
-// Exit status: 0 done; 1 an edit was refused; 2 bad usage or an unreadable
-// drawing.
+// Exit status: 0 done; 1 an edit was refused or nothing was selected; 2 bad
+// usage, an unreadable drawing or a failed script; 3 edits left unsaved.
 #include "Listing.h"
 #include "Session.h"
 #include "DxfDatabase.h"
@@ -11,6 +11,8 @@
 #include "DbPlainClasses.h"
 #include "DbRelease.h"
 #include "ZqServices.h"
+#include "ZqSelection.h"
+#include "DbUndo.h"
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
@@ -20,18 +22,21 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <algorithm>
+#include <memory>
 #include <csignal>
 #include <cstdio>
 
 namespace {
 
 
-enum Exit { kDone = 0, kRefused = 1, kUsage = 2 };
+enum Exit { kDone = 0, kRefused = 1, kUsage = 2, kUnsaved = 3 };
 
-OdDbObjectIdArray modelSpace(OdDbDatabase* db) {
-  OdDbObjectPtr ms = db->getModelSpaceId().openObject();
-  auto space = OdDbBlockTableRecord::cast(ms.get());
-  return space ? space->entityIds() : OdDbObjectIdArray();
+// Values of a repeatable option, each also a comma list.
+QStringList listValues(const QStringList& values) {
+  QStringList out;
+  for (const QString& v : values)
+    for (const QString& item : v.split(',', Qt::SkipEmptyParts)) out << item.trimmed();
+  return out;
 }
 
 // Installs the catalog zqprops_<code>.qm from the translations folder next
@@ -59,6 +64,12 @@ int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArra
   const QString name = assignment.left(eq).trimmed(), text = assignment.mid(eq + 1);
   CZqPropertiesWindowService service(db);
   int status = kDone, found = 0;
+  // One --set is one undo step, however many objects it edits.
+  db->undoJournal().startStep(OdString("--set " + assignment));
+  struct StepEnd {
+    OdDbDatabase* db;
+    ~StepEnd() { db->undoJournal().endStep(); }
+  } stepEnd{db};
   for (const OdDbObjectId& id : targets) {
     service.SetSelection({id});
     service.SetCurrentIndex(items.value(id.getHandle().value()));
@@ -168,7 +179,14 @@ int main(int argc, char** argv) {
   const QCommandLineOption saveAs("save-as", "Save the drawing as this release (R2000 or newer, e.g. R2018).", "RELEASE");
   const QCommandLineOption force("force", "Also edit objects on locked layers.");
   const QCommandLineOption vertex("vertex", "Make vertex N the current vertex of the objects that have vertices.", "N");
-  parser.addOptions({list, info, handle, json, set, script, output, lang, ucs, inPlace, saveAs, force, vertex, strict});
+  const QCommandLineOption type("type", "Work on objects of these kinds: DXF types or display names, wildcards, comma lists (TEXT,MTEXT).", "TYPES");
+  const QCommandLineOption layer("layer", "Work on objects on these layers: wildcards (* ? # ~) and comma lists.", "LAYERS");
+  const QCommandLineOption space("space", "Work on objects of model space (default), paper space (every layout) or all.", "model|paper|all");
+  const QCommandLineOption blocks("blocks", "Also work on the objects inside block definitions.");
+  const QCommandLineOption rows("rows", "List only these rows (Category/Name, comma list).", "ROWS");
+  const QCommandLineOption keepGoing("keep-going", "Go on past errors in a script (the exit status still shows them).");
+  parser.addOptions({list, info, handle, json, set, script, output, lang, ucs, inPlace, saveAs, force, vertex, strict,
+                     type, layer, space, blocks, rows, keepGoing});
   if (!parser.parse(app.arguments())) {
     err << "zqprops: " << parser.errorText() << "\n";
     return kUsage;
@@ -215,6 +233,19 @@ int main(int argc, char** argv) {
       return kUsage;
     }
   }
+  CZqSelectionFilter filter;
+  filter.handles = listValues(parser.values(handle));
+  filter.types = parser.value(type);
+  filter.layers = parser.value(layer);
+  filter.blocks = parser.isSet(blocks);
+  if (parser.isSet(space)) {
+    CZqSelectionFilter::Space sp;
+    if (!CZqSelectionFilter::ParseSpace(parser.value(space), sp)) {
+      err << QCoreApplication::translate("zqprops", "zqprops: --space takes model, paper or all, not \"%1\".").arg(parser.value(space)) << "\n";
+      return kUsage;
+    }
+    filter.space = sp;
+  }
   CZqPropertiesWindowService::SetEditLockedLayers(parser.isSet(force));
 
   odDbInitialize();
@@ -240,20 +271,28 @@ int main(int argc, char** argv) {
 
   int status = kDone;
   int exitCode = kDone;
+  bool declined = false;
   {
     OdDbObjectIdArray targets;
-    for (const QString& h : parser.values(handle)) {
-      const OdDbObjectId id = db->getOdDbObjectId(OdDbHandle(OdString(h)));
-      if (id.isNull() || id.isErased()) {
-        err << QCoreApplication::translate("zqprops", "zqprops: no object with handle %1").arg(h) << "\n";
-        return kUsage;
-      }
-      targets.append(id);
+    if (!filter.Select(db.get(), targets, &error)) {
+      err << "zqprops: " << error << "\n";
+      return kUsage;
     }
-    if (!parser.isSet(handle)) targets = modelSpace(db.get());
+    // An explicit selection, or an action on objects, that finds nothing is an error.
+    const bool actsOnObjects = parser.isSet(list) || parser.isSet(info) || parser.isSet(json) || parser.isSet(set) || parser.isSet(vertex);
+    if (targets.isEmpty() && (filter.IsSet() || actsOnObjects)) {
+      err << QCoreApplication::translate("zqprops", "zqprops: nothing selected: no object of the drawing meets the selection.") << "\n";
+      return kRefused;
+    }
+    CZqSelectionFilter::SetPrevious(targets);
 
     const QString outputPath = parser.isSet(inPlace) ? inputPath : parser.value(output);
-    ZqSessionOptions options{inputPath, outputPath, parser.isSet(ucs)};
+    ZqSessionOptions options;
+    options.inputPath = inputPath;
+    options.outputPath = outputPath;
+    options.infoInUcs = parser.isSet(ucs);
+    options.scriptName = parser.isSet(script) ? QFileInfo(parser.value(script)).fileName() : QString();
+    options.keepGoing = parser.isSet(keepGoing);
     const int refusedBefore = CZqPropertiesWindowService::RefusedEdits();
     CurrentItems items;
     if (firstVertex) {
@@ -265,8 +304,16 @@ int main(int argc, char** argv) {
       status = std::max(status, s);
     }
 
-    const bool interactive = !parser.isSet(list) && !parser.isSet(info) && !parser.isSet(set) &&
-                             !parser.isSet(script) && !saving;
+    const bool listing = parser.isSet(list) || parser.isSet(info) || parser.isSet(json);
+    const bool interactive = !listing && !parser.isSet(set) && !parser.isSet(script) && !saving;
+    std::unique_ptr<QTextStream> in;
+    std::unique_ptr<ZqConsoleIO> console;
+    if (interactive) {
+      in = std::make_unique<QTextStream>(stdin);
+      console = std::make_unique<ZqConsoleIO>(*in, out);
+      // At a terminal QUIT offers to save; elsewhere unsaved edits end with exit status 3.
+      options.askToSave = console->isTerminal();
+    }
     ZqSession session(db.get(), options, out, err);
     if (parser.isSet(script)) {
       QFile file(parser.value(script));
@@ -281,26 +328,30 @@ int main(int argc, char** argv) {
       ZqScriptIO io(lines, out, true);
       if (!session.run(io, [&] { return io.atEnd(); })) exitCode = kUsage;
     } else if (interactive) {
-      QTextStream in(stdin);
-      ZqConsoleIO io(in, out);
-      if (!session.run(io, [&] { return io.atEnd(); })) exitCode = kUsage;
+      if (!session.run(*console, [&] { return console->atEnd(); })) exitCode = kUsage;
+      declined = session.declinedToSave();
     }
     if (CZqPropertiesWindowService::RefusedEdits() > refusedBefore) status = std::max(status, int(kRefused));
 
-    if (parser.isSet(list) || parser.isSet(info)) {
+    if (listing) {
+      // --json alone lists the rows; --info --json the information lines only.
+      const bool showRows = parser.isSet(list) || !parser.isSet(info);
+      const ZqRowPicker picker(listValues(parser.values(rows)));
       if (parser.isSet(json)) {
         out.flush();
         QFile stdoutFile;
         stdoutFile.open(stdout, QIODevice::WriteOnly);
         zqWriteListingJson(stdoutFile, QFileInfo(inputPath).fileName(), db.get(), targets,
-                           ZqJsonContent{parser.isSet(list), parser.isSet(info), parser.isSet(ucs)});
+                           ZqJsonContent{showRows, parser.isSet(info), parser.isSet(ucs), picker});
       } else {
         for (const OdDbObjectId& id : targets) {
-          if (parser.isSet(list)) zqPrintRows(out, db.get(), id);
+          if (showRows) zqPrintRows(out, db.get(), id, picker);
           if (parser.isSet(info)) zqPrintInfo(out, db.get(), id, parser.isSet(ucs));
         }
       }
       out.flush();
+      if (!picker.all() && !picker.unused().isEmpty())
+        err << QCoreApplication::translate("zqprops", "zqprops: no listed object has the row(s) %1.").arg(picker.unused().join(", ")) << "\n";
     }
 
     if (saving) {
@@ -309,6 +360,14 @@ int main(int argc, char** argv) {
         exitCode = kUsage;
       }
     }
+  }
+  // Edits made in a session and neither saved nor undone must not vanish quietly.
+  const int unsaved = declined ? 0 : db->undoJournal().unsavedSteps();
+  if (unsaved > 0 && exitCode == kDone) {
+    err << (unsaved == 1 ? QCoreApplication::translate("zqprops", "zqprops: 1 unsaved edit; use -o or SAVE")
+                         : QCoreApplication::translate("zqprops", "zqprops: %1 unsaved edits; use -o or SAVE").arg(unsaved))
+        << "\n";
+    exitCode = kUnsaved;
   }
   db.release();
   odrxDynamicLinker()->unloadModule("ZQProperties");

@@ -1,6 +1,7 @@
 #include "MinusProperties.h"
 #include "DbPlainClasses.h"
 #include "ZqServices.h"
+#include "ZqSelection.h"
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -25,34 +26,6 @@ bool isKeyword(const QString& answer, const QString& keyword) {
   return !caps.isEmpty() && answer.compare(caps, Qt::CaseInsensitive) == 0;
 }
 
-// The model-space objects an answer to "Select objects:" names: a handle,
-// ALL, or an entity type by its file name (LINE) or display name (Line).
-OdDbObjectIdArray selectionFor(OdDbDatabase* db, const QString& answer) {
-  OdDbObjectIdArray out;
-  OdDbObjectPtr ms = db->getModelSpaceId().openObject();
-  auto space = OdDbBlockTableRecord::cast(ms.get());
-  if (!space) return out;
-  const OdDbObjectIdArray all = space->entityIds();
-  if (answer.compare("ALL", Qt::CaseInsensitive) == 0) return all;
-  for (const OdDbObjectId& id : all) {
-    OdDbObjectPtr obj = id.openObject();
-    const OdRxClass* cls = obj->isA();
-    CZqPropertyBase* pe = CZqPropertyPEClassFactory::providerFor(obj.get());
-    if (cls->dxfName().qstring().compare(answer, Qt::CaseInsensitive) == 0 ||
-        (pe && pe->GetClassName(obj.get()).qstring().compare(answer, Qt::CaseInsensitive) == 0))
-      out.append(id);
-  }
-  if (!out.isEmpty()) return out;
-  bool ok = false;
-  const qulonglong h = answer.toULongLong(&ok, 16);
-  if (ok) {
-    const OdDbObjectId id = db->getOdDbObjectId(OdDbHandle(h));
-    OdDbObjectPtr obj = id.openObject();
-    if (obj && obj->ownerId() == db->getModelSpaceId()) out.append(id);
-  }
-  return out;
-}
-
 void listRows(OdEdCommandContext* ctx, const std::vector<CZqPaletteRow>& rows) {
   for (const CZqPaletteRow& r : rows) ctx->putString(OdString("  " + r.ListLine()));
 }
@@ -68,7 +41,14 @@ void CZqCommandMinusProperties::ExecuteCommand(OdEdCommandContext* ctx) {
   for (;;) {
     const QString answer = ctx->getString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "Select objects:"))).qstring().trimmed();
     if (answer.isEmpty()) break;
-    const OdDbObjectIdArray found = selectionFor(db, answer);
+    // The same answers as every selection of the host: handles, kinds,
+    // ALL, Previous, and criteria such as Layer=W* or Space=paper.
+    OdDbObjectIdArray found;
+    QString why;
+    if (!CZqSelectionFilter::SelectByAnswer(db, answer, found, &why)) {
+      ctx->putString(OdString(why));
+      continue;
+    }
     for (const OdDbObjectId& id : found)
       if (!selection.contains(id)) selection.append(id);
     ctx->putString(OdString(QCoreApplication::translate("CZqCommandMinusProperties", "%1 found, %2 total").arg(found.size()).arg(selection.size())));
@@ -78,6 +58,7 @@ void CZqCommandMinusProperties::ExecuteCommand(OdEdCommandContext* ctx) {
     return;
   }
   service.SetSelection(selection);
+  CZqSelectionFilter::SetPrevious(selection);
 
   for (;;) {
     const std::vector<CZqPaletteRow> rows = service.Rows();

@@ -3,7 +3,7 @@
 # missing ones; apt-get needs root).
 set -euo pipefail
 packages=(g++ cmake ninja-build qt6-base-dev qt6-l10n-tools qt6-tools-dev
-          libgtest-dev libgmock-dev libbenchmark-dev python3-ezdxf)
+          libgtest-dev libgmock-dev libbenchmark-dev python3-ezdxf libedit-dev)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

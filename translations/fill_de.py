@@ -260,6 +260,30 @@ DE.setdefault("info_values", {}).update({
 DE.setdefault("errors", {}).update({
     "Multiline text can hold line breaks and tabs but no other control characters":
         "Mehrzeiliger Text kann Zeilenumbrüche und Tabulatoren, aber keine anderen Steuerzeichen enthalten"})
+# zqprops for real work: selections, undo, unsaved edits, scripts.
+DE.setdefault("zqprops", {}).update({
+    'zqprops: --space takes model, paper or all, not "%1".': 'zqprops: --space nimmt model, paper oder all, nicht "%1".',
+    "zqprops: nothing selected: no object of the drawing meets the selection.":
+        "zqprops: nichts gewählt: kein Objekt der Zeichnung erfüllt die Auswahl.",
+    "zqprops: no listed object has the row(s) %1.": "zqprops: kein gelistetes Objekt hat die Zeile(n) %1.",
+    "zqprops: 1 unsaved edit; use -o or SAVE": "zqprops: 1 ungesicherte Änderung; -o oder SAVE verwenden",
+    "zqprops: %1 unsaved edits; use -o or SAVE": "zqprops: %1 ungesicherte Änderungen; -o oder SAVE verwenden",
+    "1 unsaved edit. Save the drawing? [Yes/No] <Yes>:": "1 ungesicherte Änderung. Zeichnung sichern? [Ja/Nein] <Ja>:",
+    "%1 unsaved edits. Save the drawing? [Yes/No] <Yes>:": "%1 ungesicherte Änderungen. Zeichnung sichern? [Ja/Nein] <Ja>:",
+    "yes": "ja",
+    "Enter the number of operations to undo <1>:": "Anzahl der zurückzunehmenden Vorgänge eingeben <1>:",
+    'UNDO needs a whole number of operations from 1 on, not "%1".': 'UNDO braucht eine ganze Zahl von Vorgängen ab 1, nicht "%1".',
+    "Everything has been undone.": "Alles wurde zurückgenommen.",
+    "Undone: %1": "Zurückgenommen: %1",
+    "Nothing to redo.": "Nichts wiederherzustellen.",
+    "Redone: %1": "Wiederhergestellt: %1",
+})
+DE.setdefault("CZqSelection", {}).update({
+    "model": "Modell", "paper": "Papier", "all": "alle",
+    "The drawing has no object with handle %1.": "Die Zeichnung hat kein Objekt mit der Referenz %1.",
+    'Space takes model, paper or all, not "%1".': 'Space nimmt model, paper oder all, nicht "%1".',
+})
+
 
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)

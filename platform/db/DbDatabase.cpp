@@ -1,6 +1,7 @@
 #include "DbDatabase.h"
 #include "DbPlainClasses.h"
 #include "OdDbUnitsFormatter.h"
+#include "DbUndo.h"
 
 OdDbCoordinateService::OdDbCoordinateService(const OdGePoint3d& origin, const OdGeVector3d& xDir,
                                              const OdGeVector3d& yDir) {
@@ -23,6 +24,7 @@ OdDbDatabase::OdDbDatabase(bool buildDefaultDrawing) {
 }
 
 OdDbDatabase::~OdDbDatabase() {
+  m_undo.reset();  // its copies refer to the objects by id only
   // Objects may refer to each other only through ids, so any order works.
   for (OdDbStub& stub : m_stubs) {
     if (stub.object) {
@@ -32,6 +34,11 @@ OdDbDatabase::~OdDbDatabase() {
       obj->release();
     }
   }
+}
+
+OdDbUndoJournal& OdDbDatabase::undoJournal() {
+  if (!m_undo) m_undo = std::make_unique<OdDbUndoJournal>();
+  return *m_undo;
 }
 
 OdSmartPtr<OdDbDatabase> OdDbDatabase::createObject(bool buildDefaultDrawing) {

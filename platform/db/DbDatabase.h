@@ -9,6 +9,7 @@
 
 struct OdDbUnitsSettings;
 class OdDbUnitsFormatter;
+class OdDbUndoJournal;
 
 // WCS <-> current UCS conversions of a database's current UCS.
 class DB_API OdDbCoordinateService {
@@ -146,6 +147,9 @@ class DB_API OdDbDatabase : public OdRxObject {
   OdRxObject* fileData() const { return m_fileData.get(); }
   void setFileData(OdRxObject* data) { m_fileData = data; }
 
+  // The edits that can be undone and redone (see DbUndo.h).
+  OdDbUndoJournal& undoJournal();
+
  private:
   void buildDefaults();
   OdDbObjectId tableRecord(const OdDbObjectId& table, const char* name) const;
@@ -166,6 +170,7 @@ class DB_API OdDbDatabase : public OdRxObject {
   bool m_pstylemode = true;
   OdArray<OdString> m_plotStyleNames;
   OdRxObjectPtr m_fileData;
+  std::unique_ptr<OdDbUndoJournal> m_undo;
 };
 using OdDbDatabasePtr = OdSmartPtr<OdDbDatabase>;
 

@@ -2,6 +2,7 @@
 #include "ZqServices.h"
 #include "OdDbUnitsFormatter.h"
 #include "DbPlainClasses.h"
+#include "DbUndo.h"
 #include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringList>
@@ -232,6 +233,13 @@ std::vector<CZqEditResult> CZqPropertiesWindowService::SetValue(const CZqString&
   const CZqVariant index = at.IsEmpty() ? m_index : at;
   int chosenItem = -1;  // the item a current-item row chose on every object
   bool allChose = !m_selection.isEmpty();
+  // The edit of every selected object is one undo step.
+  OdDbUndoJournal* journal = m_db ? &m_db->undoJournal() : nullptr;
+  if (journal) journal->startStep(OdString(QStringLiteral("PROPERTIES %1/%2").arg(category.qstring(), name.qstring())));
+  struct StepEnd {
+    OdDbUndoJournal* journal;
+    ~StepEnd() { if (journal) journal->endStep(); }
+  } stepEnd{journal};
   for (const OdDbObjectId& id : m_selection) {
     CZqEditResult result;
     result.id = id;
@@ -255,8 +263,11 @@ std::vector<CZqEditResult> CZqPropertiesWindowService::SetValue(const CZqString&
       result.message = QCoreApplication::translate("errors", "%1 needs a finite number.").arg(d->GetName().qstring());
     } else {
       const size_t before = services->Messages().size();
+      // Choosing the current item changes nothing that could be undone.
+      const bool recorded = journal && !choosesItem && journal->record(o.object.get());
       result.code = d->SetValue(o.object.get(), value, index);
       if (result.code == kZqSetRefused) {
+        if (recorded) journal->forget(o.object.get());
         if (services->Messages().size() > before) result.message = services->Messages().back().text;
         if (result.message.isEmpty()) result.message = d->GetRefusalText();
         if (result.message.isEmpty()) result.message = refusalSentence(*d, o.object.get(), value, index);

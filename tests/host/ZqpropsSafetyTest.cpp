@@ -90,7 +90,7 @@ TEST(ZqpropsSafety, NonFiniteValuesWarnAndStrictRefuses) {
   // A drawing without warnings reads strictly as ever.
   r = zqprops({kDemo, "--strict", "--list"});
   EXPECT_EQ(r.code, 0) << r.err.toStdString();
-  EXPECT_TRUE(r.out.contains("Line ["));
+  EXPECT_TRUE(r.out.contains("LINE ["));
 }
 
 TEST(ZqpropsSafety, MalformedValueOfAnUnmodelledEntityIsRefused) {

@@ -8,6 +8,7 @@
 #include "DxfDatabase.h"
 
 #include "DbPlainClasses.h"
+#include "DbUndo.h"
 #include "DxfDrawing.h"
 
 #include <QFile>
@@ -96,6 +97,7 @@ QByteArray writeDrawing(OdDbDatabase* db, QString* error) {
     return {};
   }
   mapping::reindex(*mapping::drawingData(db), db);
+  db->undoJournal().noteWritten();
   return out;
 }
 
@@ -104,11 +106,13 @@ bool writeDrawing(OdDbDatabase* db, const QString& path, QString& error) {
   if (!mapping::writeImpl(db, bytes, error)) return false;
   DrawingData* d = mapping::drawingData(db);
   mapping::reindex(*d, db);
+  db->undoJournal().noteWritten();
   if (!saveBytes(path, bytes, error)) return false;
   // Saved: nothing counts as modified any more.
   for (const auto& owners : d->owners)
     for (OdDbStub* s : owners)
       if (s && s->object) s->object->setModified(false);
+  db->undoJournal().markSaved();
   return true;
 }
 
