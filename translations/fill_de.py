@@ -285,6 +285,15 @@ DE.setdefault("CZqSelection", {}).update({
 })
 
 
+# Reliability: refusals found by fuzzing, and saves refused before writing.
+DE.setdefault("errors", {}).update({
+    "A hyperlink needs a drawing saved as %1 or later; this drawing is %2.": "Ein Hyperlink braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.",
+})
+DE.setdefault("OdDxf", {}).update({
+    "Cannot write %1: it is a folder, not a file.": "%1 kann nicht geschrieben werden: es ist ein Ordner, keine Datei.",
+    "Cannot write %1: it is a device or another special file, not a regular file.": "%1 kann nicht geschrieben werden: es ist ein Gerät oder eine andere Spezialdatei, keine gewöhnliche Datei.",
+})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []
