@@ -3,7 +3,7 @@
 #include "DbEntity.h"
 
 namespace OdDb {
-enum LineSpacingStyle { kAtLeast = 1, kExactly = 2 };
+enum LineSpacingStyle : int { kAtLeast = 1, kExactly = 2 };
 }  // namespace OdDb
 
 // Points and the direction are WCS; the text lies in the plane of its
@@ -13,11 +13,11 @@ class DB_API OdDbMText : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbMText);
 
  public:
-  enum AttachmentPoint {
+  enum AttachmentPoint : int {
     kTopLeft = 1, kTopCenter = 2, kTopRight = 3, kMiddleLeft = 4, kMiddleCenter = 5, kMiddleRight = 6,
     kBottomLeft = 7, kBottomCenter = 8, kBottomRight = 9
   };
-  enum FlowDirection { kLtoR = 1, kRtoL = 2, kTtoB = 3, kBtoT = 4, kByStyle = 5 };
+  enum FlowDirection : int { kLtoR = 1, kRtoL = 2, kTtoB = 3, kBtoT = 4, kByStyle = 5 };
 
   static OdSmartPtr<OdDbMText> createObject();
   OdDbMText();

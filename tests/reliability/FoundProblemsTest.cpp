@@ -63,3 +63,47 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
+
+namespace {
+
+// Text modes out of their range, as fuzz_dxf_binary first made one (a
+// vertical mode of 21582): converting such a number to the mode's type was
+// undefined behaviour, reported by the sanitizers, before the range check
+// could refuse it. Each drawing loads with a warning naming the line, or is
+// refused with it.
+struct BadMode {
+  const char* name;
+  QByteArray entity;
+};
+
+void PrintTo(const BadMode& b, std::ostream* os) { *os << b.name; }
+
+class FoundModes : public ::testing::TestWithParam<BadMode> {};
+
+TEST_P(FoundModes, ReportedWithTheirLine) {
+  zqfuzz::startPlatform(false);
+  const QByteArray bytes = "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n" +
+                           GetParam().entity + "  0\nENDSEC\n  0\nEOF\n";
+  QString error;
+  QStringList warnings;
+  OdDbDatabasePtr db = OdDxf::readDrawing(bytes, error, &warnings);
+  if (!db) {
+    EXPECT_TRUE(zqfuzz::namesAPlace(error)) << error.toStdString();
+  } else {
+    ASSERT_FALSE(warnings.isEmpty());
+    EXPECT_TRUE(zqfuzz::namesAPlace(warnings.front())) << warnings.front().toStdString();
+  }
+}
+
+const QByteArray kText = "  0\nTEXT\n  5\n2A\n100\nAcDbEntity\n  8\n0\n100\nAcDbText\n 10\n0.0\n 20\n0.0\n 30\n0.0\n 40\n1.0\n  1\nx\n";
+const QByteArray kMText = "  0\nMTEXT\n  5\n2B\n100\nAcDbEntity\n  8\n0\n100\nAcDbMText\n 10\n0.0\n 20\n0.0\n 30\n0.0\n 40\n1.0\n  1\nx\n";
+
+INSTANTIATE_TEST_SUITE_P(Inputs, FoundModes,
+                         ::testing::Values(BadMode{"TextVertical", kText + "100\nAcDbText\n 73\n21582\n"},
+                                           BadMode{"TextHorizontal", kText + " 72\n-30000\n100\nAcDbText\n"},
+                                           BadMode{"MTextAttachment", kMText + " 71\n999\n"},
+                                           BadMode{"MTextFlow", kMText + " 72\n77\n"},
+                                           BadMode{"MTextSpacing", kMText + " 73\n9\n"}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace

@@ -184,7 +184,7 @@ void Reader::readPlotStyleNames() {
   if (!plotStyles) return;
   OdArray<OdString> names;
   for (const Record& r : objects->records)
-    if (r.handle() == plotStyles && r.isType("ACDBDICTIONARYWDFLT") | r.isType("DICTIONARY")) {
+    if (r.handle() == plotStyles && (r.isType("ACDBDICTIONARYWDFLT") || r.isType("DICTIONARY"))) {
       entries(r, [&](const QString& name, quint64 h) {
         m_ctx.plotStyleNames.insert(h, name);
         m_ctx.plotStyleHandles.insert(name.toCaseFolded(), h);
