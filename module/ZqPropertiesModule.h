@@ -14,6 +14,7 @@
 #include "Polyline.h"
 #include "Polyline2d.h"
 #include "Ray.h"
+#include "Solid.h"
 #include "Spline.h"
 #include "Text.h"
 #include "Vertex.h"

@@ -236,6 +236,12 @@ DE.setdefault("errors", {}).update({
     "The degree of a spline without fit points cannot be changed": "Der Grad eines Splines ohne Anpassungspunkte kann nicht geändert werden",
     "The degree must be lower than the number of fit points": "Der Grad muss kleiner als die Anzahl der Anpassungspunkte sein"})
 
+# Curves: 3D faces, solids and traces.
+DE.setdefault("entity_types", {}).update({"3D Face": "3D-Fläche", "Solid": "Solid", "Trace": "Band"})
+DE.setdefault("property_types", {}).update({"Vertex Z": "Scheitelpunkt Z", "Edge visible": "Kante sichtbar"})
+DE.setdefault("info_items", {}).update({"Thickness": "Objekthöhe", "Edge %1": "Kante %1"})
+DE.setdefault("info_values", {}).update({"Invisible": "Unsichtbar"})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []
