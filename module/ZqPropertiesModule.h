@@ -15,6 +15,7 @@
 #include "Polyline.h"
 #include "Polyline2d.h"
 #include "Ray.h"
+#include "Solid.h"
 #include "Spline.h"
 #include "Text.h"
 #include "Vertex.h"

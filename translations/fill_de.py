@@ -294,6 +294,12 @@ DE.setdefault("OdDxf", {}).update({
     "Cannot write %1: it is a device or another special file, not a regular file.": "%1 kann nicht geschrieben werden: es ist ein Gerät oder eine andere Spezialdatei, keine gewöhnliche Datei.",
 })
 
+# Curves: 3D faces, solids and traces.
+DE.setdefault("entity_types", {}).update({"3D Face": "3D-Fläche", "Solid": "Solid", "Trace": "Band"})
+DE.setdefault("property_types", {}).update({"Vertex Z": "Scheitelpunkt Z", "Edge visible": "Kante sichtbar"})
+DE.setdefault("info_items", {}).update({"Thickness": "Objekthöhe", "Edge %1": "Kante %1"})
+DE.setdefault("info_values", {}).update({"Invisible": "Unsichtbar"})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []

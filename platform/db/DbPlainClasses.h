@@ -6,6 +6,7 @@
 #include "DbLine.h"
 #include "DbCircle.h"
 #include "DbArc.h"
+#include "DbSolid.h"
 #include "DbEllipse.h"
 #include "DbSpline.h"
 #include "DbPolyline.h"

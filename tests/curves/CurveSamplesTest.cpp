@@ -1,4 +1,4 @@
-// Every arc, ellipse, 2D polyline and spline of the sample drawings, in every
+// Every arc, ellipse, 2D polyline, spline, 3D face, solid and trace of the sample drawings, in every
 // block (model and paper space and block definitions): its own provider
 // serves it with its own rows, and it lists its own information lines.
 #include "ZqTestSupport.h"
@@ -18,6 +18,9 @@ const Kind kKinds[] = {
     {&OdDbEllipse::desc, "CZqEllipsePE", "Major radius", "Radius ratio"},
     {&OdDb2dPolyline::desc, "CZq2dPolylinePE", "Length", "Perimeter"},
     {&OdDbSpline::desc, "CZqSplinePE_Prop", "Length", "Degree"},
+    {&OdDbFace::desc, "CZqFacePE", "Vertex X", "Location 3"},
+    {&OdDbSolid::desc, "CZqSolidPE", "Vertex X", "Location 3"},
+    {&OdDbTrace::desc, "CZqTracePE", "Vertex X", "Location 3"},
 };
 
 std::vector<std::string> samples() {

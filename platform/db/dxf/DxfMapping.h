@@ -31,6 +31,9 @@
 class OdDbLine;
 class OdDbCircle;
 class OdDbArc;
+class OdDbFace;
+class OdDbSolid;
+class OdDbTrace;
 class OdDbEllipse;
 class OdDbSpline;
 class OdDbPolyline;
@@ -397,6 +400,10 @@ void splineFields(Fields<OdDbSpline>& f);
 void lwpolylineFields(Fields<OdDbPolyline>& f);
 void polyline2dFields(Fields<OdDb2dPolyline>& f);
 void pointFields(Fields<OdDbPoint>& f);
+// Four-cornered entities (DxfFaces.cpp).
+void faceFields(Fields<OdDbFace>& f);
+void solidFields(Fields<OdDbSolid>& f);
+void traceFields(Fields<OdDbTrace>& f);
 void rayFields(Fields<OdDbRay>& f);
 void xlineFields(Fields<OdDbXline>& f);
 // Texts (DxfText.cpp).

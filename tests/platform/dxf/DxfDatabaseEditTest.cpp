@@ -196,6 +196,19 @@ std::vector<EditCase> editCases() {
          const OdGePoint3d c = as<OdDbArc>(o)->center();
          return QJsonValue(QJsonArray{7.25, 45, 270, -2, xyz(c.x, c.y, c.z)});
        }},
+      {"SolidCornerThicknessNormal", kEntities2d, &OdDbSolid::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         auto* e = as<OdDbSolid>(o);
+         e->setPointAt(3, OdGePoint3d(9, 5, 2));
+         e->setThickness(1.5);
+       },
+       "[list(e.dxf.vtx3), e.dxf.thickness, list(e.dxf.vtx0)]", FIXED((QJsonArray{xyz(9, 5, 2), 1.5, xyz(7, 1, 2)}))},
+      {"FaceCornerAndInvisibleEdge", kExample2000, &OdDbFace::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         as<OdDbFace>(o)->setVertexAt(1, OdGePoint3d(1, 2, 3));
+         as<OdDbFace>(o)->makeEdgeInvisibleAt(2);
+       },
+       "[list(e.dxf.vtx1), e.dxf.invisible]", FIXED((QJsonArray{xyz(1, 2, 3), 4}))},
       {"PolylineVertexMovedClosedAndElevated", kEntities2d, lw, nullptr,
        [](OdDbDatabase*, OdDbObject* o) {
          as<OdDbPolyline>(o)->setPointAt(0, OdGePoint2d(5.5, -1.25));
@@ -573,7 +586,7 @@ TEST(DxfDatabaseSave, FailedSaveLeavesTheOldFileWhole) {
   EXPECT_FALSE(line.openObject()->isModified());
   const QByteArray saved = readBytes(target);
   OdDbObjectPtr ms = db->getModelSpaceId().openObject(OdDb::kForWrite);
-  auto face = OdDbFace::createObject();
+  auto face = OdDbMline::createObject();
   const OdDbObjectId textId = static_cast<OdDbBlockTableRecord*>(ms.get())->appendOdDbEntity(face.get());
   ms.release();
   EXPECT_FALSE(OdDxf::writeDrawing(db.get(), target, error));

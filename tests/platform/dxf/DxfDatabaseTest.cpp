@@ -51,6 +51,9 @@ for e in doc.modelspace():
     elif t == 'CIRCLE': g = [l(e.ocs().to_wcs(e.dxf.center)), e.dxf.radius, l(e.dxf.extrusion)]
     elif t == 'ARC': g = [l(e.ocs().to_wcs(e.dxf.center)), e.dxf.radius, e.dxf.start_angle % 360, e.dxf.end_angle % 360,
                           l(e.dxf.extrusion)]
+    elif t == '3DFACE': g = [[l(e.dxf.get('vtx%d' % i, e.dxf.vtx2)) for i in range(4)], e.dxf.get('invisible', 0)]
+    elif t in ('SOLID', 'TRACE'):
+        g = [[l(e.ocs().to_wcs(e.dxf.get('vtx%d' % i, e.dxf.vtx2))) for i in range(4)], e.dxf.thickness, l(e.dxf.extrusion)]
     elif t == 'LWPOLYLINE': g = [[l(p) for p in e.vertices_in_wcs()], e.closed, [l(p) for p in e.get_points('seb')]]
     elif t == 'POLYLINE' and e.get_mode() == 'AcDb2dPolyline':
         ocs, z = e.ocs(), e.dxf.elevation.z
@@ -105,6 +108,26 @@ QJsonValue geometry(const OdDbObject* o) {
   if (auto* e = OdDbArc::cast(o).get())
     return QJsonArray{xyz(e->center()), e->radius(), qRadiansToDegrees(e->startAngle()), qRadiansToDegrees(e->endAngle()),
                       xyz(e->normal())};
+  if (auto* e = OdDbFace::cast(o).get()) {
+    QJsonArray corners;
+    for (unsigned i = 0; i < 4; ++i) {
+      OdGePoint3d p;
+      e->getVertexAt(i, p);
+      corners.append(xyz(p));
+    }
+    return QJsonArray{corners, e->invisibleEdges()};
+  }
+  auto quad = [](const auto* e) {
+    QJsonArray corners;
+    for (unsigned i = 0; i < 4; ++i) {
+      OdGePoint3d p;
+      e->getPointAt(i, p);
+      corners.append(xyz(p));
+    }
+    return QJsonArray{corners, e->thickness(), xyz(e->normal())};
+  };
+  if (auto* e = OdDbSolid::cast(o).get()) return quad(e);
+  if (auto* e = OdDbTrace::cast(o).get()) return quad(e);
   if (auto* e = OdDbPolyline::cast(o).get()) {
     QJsonArray wcs, seb;
     for (unsigned i = 0; i < e->numVerts(); ++i) {
