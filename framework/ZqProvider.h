@@ -19,6 +19,9 @@
 // The parent and drawing class of each provider, read from the table.
 template <class Provider> struct ZqParentOf;
 template <class Provider> struct ZqDrawingClassOf;
+// A shared base that is also attached (the dimension base) has both a row
+// and a base-class line; the row's drawing class is the one used.
+template <class Provider> struct ZqBaseDrawingClassOf;
 #define ZQ_CLASS(Provider, Parent, RegisterPosition) \
   class Provider;                                    \
   class Parent;                                      \
@@ -28,7 +31,7 @@ template <class Provider> struct ZqDrawingClassOf;
   class Parent;                                                                          \
   class DrawingClass;                                                                    \
   template <> struct ZqParentOf<Provider> { using type = Parent; };                      \
-  template <> struct ZqDrawingClassOf<Provider> { using type = DrawingClass; };
+  template <> struct ZqBaseDrawingClassOf<Provider> { using type = DrawingClass; };
 #define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Step, Info, InfoPosition) \
   class Provider;                                                                     \
   class DrawingClass;                                                                 \
@@ -36,7 +39,15 @@ template <class Provider> struct ZqDrawingClassOf;
 #include "ZqProviders.def"
 
 template <class Provider> using ZqParent = typename ZqParentOf<Provider>::type;
-template <class Provider> using ZqDrawingClass = typename ZqDrawingClassOf<Provider>::type;
+template <class Provider, class = void>
+struct ZqDrawingClassPick {
+  using type = typename ZqBaseDrawingClassOf<Provider>::type;
+};
+template <class Provider>
+struct ZqDrawingClassPick<Provider, std::void_t<typename ZqDrawingClassOf<Provider>::type>> {
+  using type = typename ZqDrawingClassOf<Provider>::type;
+};
+template <class Provider> using ZqDrawingClass = typename ZqDrawingClassPick<Provider>::type;
 
 // What a provider states about itself: everything else is ZqProvider's.
 struct ZqProviderRows {

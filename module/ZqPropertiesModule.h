@@ -7,6 +7,7 @@
 #include "ZqEntityExPE.h"
 #include "ZqLifecycle.h"
 #include "Circle.h"
+#include "Dimension.h"
 #include "Line.h"
 #include "Point.h"
 #include "Polyline.h"

@@ -6,6 +6,7 @@
 #include "DbDatabase.h"
 
 #include <cmath>
+#include <cstring>
 
 namespace OdDbDimVar {
 namespace {
@@ -53,6 +54,24 @@ bool validLineWeight(int v) {
 QString number(double v) { return QString::number(v, 'g', 17); }
 
 }  // namespace
+
+std::vector<RowUse> rowUses(const char* row) {
+  struct Entry {
+    const char* row;
+    Id id;
+    Part part;
+  };
+  static const Entry kEntries[] = {
+#define DIMVAR(Name, Setter, Code, K, Type, Default, L, Lo, Hi, Since, Row) {Row, k_##Name, Part::Whole},
+#define DIMROW(Name, Row, P) {Row, k_##Name, Part::P},
+#include "DimVars.def"
+  };
+  std::vector<RowUse> out;
+  if (!row || !*row) return out;
+  for (const Entry& e : kEntries)
+    if (std::strcmp(e.row, row) == 0) out.push_back({e.id, e.part});
+  return out;
+}
 
 Value Info::defaultValue() const { return defaultOf(id); }
 OdString Info::upperName() const { return OdString(QString::fromLatin1(name).toUpper()); }

@@ -396,6 +396,17 @@ void attribFields(Fields<OdDbAttribute>& f);
 void mtextFields(Fields<OdDbMText>& f);
 // What every dimension kind has: its style (DxfText.cpp).
 void dimensionFields(Fields<OdDbDimension>& f);
+// The nine kinds of dimension, each with the fields every dimension has
+// (DxfDimension.cpp).
+void rotatedDimensionFields(Fields<OdDbDimension>& f);
+void alignedDimensionFields(Fields<OdDbDimension>& f);
+void twoLineAngularDimensionFields(Fields<OdDbDimension>& f);
+void threePointAngularDimensionFields(Fields<OdDbDimension>& f);
+void diametricDimensionFields(Fields<OdDbDimension>& f);
+void radialDimensionFields(Fields<OdDbDimension>& f);
+void ordinateDimensionFields(Fields<OdDbDimension>& f);
+void arcDimensionFields(Fields<OdDbDimension>& f);
+void largeRadialDimensionFields(Fields<OdDbDimension>& f);
 // DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
 void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 
