@@ -41,19 +41,24 @@ QString ZqIconStem(const ZqRow& row) {
   return QString::fromLatin1(row.category) + '_' + QString::fromLatin1(row.name).remove(' ');
 }
 
+// The group word of a stem: all but its last part ("Lines_Arrows" of
+// "Lines_Arrows_ArrowSize").
+static QString groupOf(const QString& stem) { return stem.section('_', 0, -2); }
+
 QString ZqIconFolder(const ZqRow& row) {
-  return row.iconFolder ? QString::fromLatin1(row.iconFolder) : ZqIconStem(row).section('_', 0, 0);
+  return row.iconFolder ? QString::fromLatin1(row.iconFolder) : groupOf(ZqIconStem(row));
 }
 
-QString ZqDarkIconPath(const QString& stem, const QString& folder) {
-  const QString group = folder.isEmpty() ? stem.section('_', 0, 0) : folder;
-  return QString(":/%1/svg_icons/dark/%1/%2.svg").arg(group, stem);
+// A folder ending in a slash holds its icons directly under dark/ and
+// light/, without the repeated group folder.
+static QString iconPath(const char* shade, const QString& stem, const QString& folder) {
+  const QString group = folder.isEmpty() ? groupOf(stem) : folder;
+  if (group.endsWith('/')) return QString(":/%1svg_icons/%2/%3.svg").arg(group, QLatin1String(shade), stem);
+  return QString(":/%1/svg_icons/%2/%1/%3.svg").arg(group, QLatin1String(shade), stem);
 }
 
-QString ZqLightIconPath(const QString& stem, const QString& folder) {
-  const QString group = folder.isEmpty() ? stem.section('_', 0, 0) : folder;
-  return QString(":/%1/svg_icons/light/%1/%2.svg").arg(group, stem);
-}
+QString ZqDarkIconPath(const QString& stem, const QString& folder) { return iconPath("dark", stem, folder); }
+QString ZqLightIconPath(const QString& stem, const QString& folder) { return iconPath("light", stem, folder); }
 
 const ZqRow* ZqRowOf(const CZqPropertyDescription& description) {
   return static_cast<const ZqRow*>(description.GetRowData());

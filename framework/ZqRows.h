@@ -89,7 +89,8 @@ struct ZqRow {
   const char* icon;          // icon stem "Group_Name"; nullptr: category_NameWithoutBlanks; "" none
   ZqVis vis = kVisKeep;
   ZqLimit limit = kZqAny;    // the values a numeric setter takes
-  const char* iconFolder = nullptr;  // icon set; nullptr: the stem's group word
+  const char* iconFolder = nullptr;  // icon set; nullptr: the stem's group word (all but its last part);
+                                     // "Folder/": icons directly under the set's dark/ and light/
 };
 
 // A row shown only for objects for which `when` answers true (an

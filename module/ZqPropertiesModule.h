@@ -8,6 +8,7 @@
 #include "ZqLifecycle.h"
 #include "Arc.h"
 #include "Circle.h"
+#include "Dimension.h"
 #include "Ellipse.h"
 #include "Line.h"
 #include "MText.h"

@@ -300,6 +300,123 @@ DE.setdefault("property_types", {}).update({"Vertex Z": "Scheitelpunkt Z", "Edge
 DE.setdefault("info_items", {}).update({"Thickness": "Objekthöhe", "Edge %1": "Kante %1"})
 DE.setdefault("info_values", {}).update({"Invisible": "Unsichtbar"})
 
+# Dimensions: kinds, categories, rows, choices, refusals and information lines.
+DE.setdefault("entity_types", {}).update({
+    "Dimension": "Bemaßung", "AlignedDimension": "Ausgerichtete Bemaßung", "RotatedDimension": "Gedrehte Bemaßung",
+    "2LineAngularDimension": "Winkelbemaßung (2 Linien)", "3PointAngularDimension": "Winkelbemaßung (3 Punkte)",
+    "ArcLengthDimension": "Bogenlängenbemaßung", "RadialDimension": "Radiusbemaßung",
+    "RadialDimensionLarge": "Verkürzte Radiusbemaßung", "DiametricDimension": "Durchmesserbemaßung",
+    "OrdinateDimension": "Koordinatenbemaßung",
+})
+DE.setdefault("property_groups", {}).update({
+    "Lines && Arrows": "Linien && Pfeile", "Fit": "Einpassen", "Primary UnitSystem": "Primäreinheiten",
+    "Alternate UnitSystem": "Alternativeinheiten", "Tolerance": "Toleranzen",
+})
+DE.setdefault("property_types", {}).update({
+    "Associative": "Assoziativ", "Dim style": "Bemaßungsstil", "Arrow size": "Pfeilgröße", "Fill color": "Füllfarbe",
+    "Text color": "Textfarbe", "Text height": "Texthöhe", "Text offset": "Textabstand", "Position x": "Position X",
+    "Position y": "Position Y", "Text override": "Textüberschreibung", "Dim scale overall": "Gesamtmaßstab",
+    "Text movement": "Textverschiebung", "Decimal separator": "Dezimaltrennzeichen", "Dim Roundoff": "Rundung",
+    "Dim prefix": "Präfix", "Dim suffix": "Suffix", "Suppress leading zeros": "Führende Nullen unterdrücken",
+    "Suppress trailing zeros": "Nachkommanullen unterdrücken", "Tolerance display": "Toleranzanzeige",
+    "Tolerance limit lower": "Untere Toleranzgrenze", "Tolerance limit upper": "Obere Toleranzgrenze",
+    "Tolerance pos vert": "Vertikale Toleranzposition", "Tolerance precision": "Toleranzgenauigkeit",
+    "Tolerance suppress leading zeros": "Toleranz: führende Nullen unterdrücken",
+    "Tolerance suppress trailing zeros": "Toleranz: Nachkommanullen unterdrücken",
+    "Tolerance text height": "Toleranztexthöhe", "Inspection frame": "Prüfrahmen",
+    "Inspection frame shape": "Form des Prüfrahmens", "Inspection label": "Prüfbeschriftung",
+    "Inspection rate": "Prüfrate", "Annotative": "Beschriftend", "Annotative Scale": "Beschriftungsmaßstab",
+    "Arrow": "Pfeil", "CenterMark": "Mittelpunktmarkierung", "DimLine forced": "Maßlinie erzwingen",
+    "CenterMark size": "Größe der Mittelpunktmarkierung", "DimLine LWeight": "Maßlinie Linienstärke",
+    "DimLine LColor": "Maßlinie Farbe", "Ext line": "Hilfslinie", "DimLine LStyle": "Maßlinie Linientyp",
+    "Fractional type": "Bruchformat", "Measurement": "Messwert", "Text outside align": "Text außen ausrichten",
+    "Text pos vert": "Vertikale Textposition", "Text inside align": "Text innen ausrichten", "Fit": "Einpassen",
+    "Dim scale linear": "Linearer Maßstab", "Dim UnitSystem": "Einheitenformat", "Precision": "Genauigkeit",
+    "Suppress zero feet": "Null Fuß unterdrücken", "Suppress zero inches": "Null Zoll unterdrücken",
+    "Tolerance suppress zero feet": "Toleranz: null Fuß unterdrücken",
+    "Tolerance suppress zero inches": "Toleranz: null Zoll unterdrücken",
+    "Alt tolerance precision": "Alternative Toleranzgenauigkeit",
+    "Alt tolerance suppress leading zeros": "Alternative Toleranz: führende Nullen unterdrücken",
+    "Alt tolerance suppress trailing zeros": "Alternative Toleranz: Nachkommanullen unterdrücken",
+    "Alt tolerance suppress zero feet": "Alternative Toleranz: null Fuß unterdrücken",
+    "Alt tolerance suppress zero inches": "Alternative Toleranz: null Zoll unterdrücken",
+    "Alt enabled": "Alternativeinheiten aktiviert", "Alt format": "Alternatives Format",
+    "Alt precision": "Alternative Genauigkeit", "Alt round": "Alternative Rundung", "Alt scale": "Alternativer Faktor",
+    "Alt prefix": "Alternatives Präfix", "Alt suffix": "Alternatives Suffix",
+    "Alt suppress leading zeros": "Alternativ: führende Nullen unterdrücken",
+    "Alt suppress trailing zeros": "Alternativ: Nachkommanullen unterdrücken",
+    "Alt suppress zeros feet": "Alternativ: null Fuß unterdrücken",
+    "Alt suppress zeros inches": "Alternativ: null Zoll unterdrücken", "Text view direction": "Textleserichtung",
+    "Arrow 1": "Pfeil 1", "Arrow 2": "Pfeil 2", "ExtLine LWeight": "Hilfslinie Linienstärke",
+    "DimLine 1": "Maßlinie 1", "DimLine 2": "Maßlinie 2", "ExtLine 1 LStyle": "Hilfslinie 1 Linientyp",
+    "ExtLine 2 LStyle": "Hilfslinie 2 Linientyp", "DimLine ext": "Maßlinienverlängerung", "ExtLine 1": "Hilfslinie 1",
+    "ExtLine 2": "Hilfslinie 2", "ExtLine fixed": "Hilfslinie fester Länge",
+    "ExtLine fixed length": "Feste Hilfslinienlänge", "ExtLine LColor": "Hilfslinie Farbe",
+    "ExtLine ext": "Hilfslinienverlängerung", "ExtLine offset": "Hilfslinienabstand", "Text pos hor": "Horizontale Textposition",
+    "DimLine inside": "Maßlinie innen", "Text inside": "Text innen", "Arc length symbol": "Bogenlängensymbol",
+    "Angle precision": "Winkelgenauigkeit", "Angle format": "Winkelformat", "Dim line 1": "Maßlinie 1",
+    "Dim line 2": "Maßlinie 2", "DimLine": "Maßlinie", "Center location override X": "Mittelpunkt-Ersatz X",
+    "Center location override Y": "Mittelpunkt-Ersatz Y", "Jog location X": "Knickposition X",
+    "Jog location Y": "Knickposition Y", "Jog angle": "Knickwinkel", "ExtLine LStyle": "Hilfslinie Linientyp",
+})
+DE.setdefault("property_values", {}).update({
+    "Keep dimline with text": "Maßlinie mit Text verschieben", "Move text, add leader": "Text verschieben, mit Führungslinie",
+    "Move text, no leader": "Text verschieben, ohne Führungslinie", "None": "Keine", "Symmetrical": "Symmetrisch",
+    "Deviation": "Abweichung", "Limits": "Grenzen", "Basic": "Grundmaß", "Bottom": "Unten", "Middle": "Mitte",
+    "Top": "Oben", "Mark": "Markierung", "Line": "Linie", "Horizontal": "Horizontal", "Diagonal": "Diagonal",
+    "Not stacked": "Nicht gestapelt", "Centered": "Zentriert", "Above": "Darüber", "Outside": "Außen",
+    "Below": "Darunter", "Text and arrows": "Text und Pfeile", "Arrows only": "Nur Pfeile", "Text only": "Nur Text",
+    "Best fit": "Beste Einpassung", "Scientific": "Wissenschaftlich", "Decimal": "Dezimal",
+    "Engineering": "Ingenieur", "Architectural": "Architektonisch", "Fractional": "Bruch",
+    "Windows Desktop": "Windows-Desktop", "First extension line": "Erste Hilfslinie",
+    "Second extension line": "Zweite Hilfslinie", "Over first extension": "Über erster Hilfslinie",
+    "Over second extension": "Über zweiter Hilfslinie", "Left-to-right": "Von links nach rechts",
+    "Right-to-left": "Von rechts nach links", "Decimal degrees": "Dezimalgrad", "Deg/min/sec": "Grad/Min/Sek",
+    "Gradians": "Neugrad", "Radians": "Bogenmaß", "Preceding Dimension Text": "Vor dem Bemaßungstext",
+    "Above Dimension Text": "Über dem Bemaßungstext", "Closed filled": "Geschlossen gefüllt",
+    "Closed blank": "Geschlossen leer", "Closed": "Geschlossen", "Dot": "Punkt",
+    "Architectural tick": "Architektonischer Schrägstrich", "Oblique": "Schräg", "Open": "Offen",
+    "Origin indicator": "Ursprungsanzeiger", "Origin indicator 2": "Ursprungsanzeiger 2", "Right angle": "Rechter Winkel",
+    "Open 30": "Offen 30", "Dot small": "Kleiner Punkt", "Dot blank": "Punkt leer", "Dot small blank": "Kleiner Punkt leer",
+    "Box": "Kasten", "Box filled": "Kasten gefüllt", "Datum triangle": "Bezugsdreieck",
+    "Datum triangle filled": "Bezugsdreieck gefüllt", "Integral": "Integral", "Custom arrow": "Benutzerpfeil",
+})
+DE.setdefault("CZqDimensionPE", {}).update({
+    "None": "Keine", "Round": "Rund", "Angular": "Eckig", "Yes": "Ja", "No": "Nein",
+})
+DE.setdefault("errors", {}).update({
+    "Decimal separator must be one character": "Das Dezimaltrennzeichen muss genau ein Zeichen sein",
+    "%1 cannot take this value": "%1 kann diesen Wert nicht annehmen",
+    "A dimension text cannot hold control characters": "Ein Bemaßungstext kann keine Steuerzeichen enthalten",
+    "Choose one of the drawing's blocks as the custom arrow": "Wählen Sie einen Block der Zeichnung als Benutzerpfeil",
+    "The drawing has no block for the arrowhead \"%1\"": "Die Zeichnung hat keinen Block für die Pfeilspitze \"%1\"",
+    "There is no such arrowhead": "Diese Pfeilspitze gibt es nicht",
+})
+DE.setdefault("info_items", {}).update({
+    "related": "assoziiert", "associated with geometry": "mit Geometrie verknüpft", "type": "Typ",
+    "default text position": "Standardtextposition", "default text": "Standardtext", "DimensionStyle": "Bemaßungsstil",
+    "Dimension style overrides": "Bemaßungsstil-Überschreibungen", "measurement": "Messwert",
+    "1st extension  defining point": "Definitionspunkt 1. Hilfslinie",
+    "2nd extension  defining point": "Definitionspunkt 2. Hilfslinie",
+    "dimension line defining point": "Definitionspunkt Maßlinie",
+    "1st extension defining point": "Definitionspunkt 1. Hilfslinie",
+    "2nd extension defining point": "Definitionspunkt 2. Hilfslinie", "defining point": "Definitionspunkt",
+    "1st extension defined line start point": "Startpunkt der 1. Hilfslinie",
+    "1st extension defined line end point": "Endpunkt der 1. Hilfslinie",
+    "2nd extension defined line start point": "Startpunkt der 2. Hilfslinie",
+    "2nd extension defined line end point": "Endpunkt der 2. Hilfslinie",
+    "dimension arc defined point": "Definitionspunkt Maßbogen", "arc center defining point": "Definitionspunkt Bogenmitte",
+    "dimension arc defining point": "Definitionspunkt Maßbogen", "far defining point": "Gegenüberliegender Definitionspunkt",
+    "feature defining point": "Definitionspunkt Element", "leader defining point": "Definitionspunkt Führungslinie",
+    "center defining point": "Definitionspunkt Mitte", "override center defining point": "Definitionspunkt Ersatzmitte",
+    "chord defining point": "Definitionspunkt Sehne", "jog defining point": "Definitionspunkt Knick", "jog angle": "Knickwinkel",
+})
+DE.setdefault("info_values", {}).update({
+    "angular": "Winkel", "aligned": "ausgerichtet", "diameter": "Durchmesser", "ordinate": "Koordinate",
+    "jogged": "verkürzt", "radial": "Radius", "rotated": "gedreht",
+    "cannot be measured: its defining points are degenerate": "nicht messbar: die Definitionspunkte sind entartet",
+})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []

@@ -6,6 +6,7 @@
 #include "DbDatabase.h"
 
 #include <cmath>
+#include <cstring>
 
 namespace OdDbDimVar {
 namespace {
@@ -53,6 +54,24 @@ bool validLineWeight(int v) {
 QString number(double v) { return QString::number(v, 'g', 17); }
 
 }  // namespace
+
+std::vector<RowUse> rowUses(const char* row) {
+  struct Entry {
+    const char* row;
+    Id id;
+    Part part;
+  };
+  static const Entry kEntries[] = {
+#define DIMVAR(Name, Setter, Code, K, Type, Default, L, Lo, Hi, Since, Row) {Row, k_##Name, Part::Whole},
+#define DIMROW(Name, Row, P) {Row, k_##Name, Part::P},
+#include "DimVars.def"
+  };
+  std::vector<RowUse> out;
+  if (!row || !*row) return out;
+  for (const Entry& e : kEntries)
+    if (std::strcmp(e.row, row) == 0) out.push_back({e.id, e.part});
+  return out;
+}
 
 Value Info::defaultValue() const { return defaultOf(id); }
 OdString Info::upperName() const { return OdString(QString::fromLatin1(name).toUpper()); }
@@ -293,12 +312,34 @@ std::vector<Entry> get(const OdDbObject* obj) {
   return out;
 }
 
+// Walks the list in place (no copy of its items): the palette asks for
+// every variable of every selected dimension.
 bool find(const OdDbObject* obj, Id id, Value* value) {
-  for (const Entry& e : get(obj))
-    if (e.id == id) {
-      if (value) *value = e.value;
+  const int code = info(id).code;
+  if (!obj || !code) return false;
+  const OdResBufPtr chain = obj->xData(kAcad);
+  bool inList = false;
+  for (const OdResBuf* p = chain ? chain->next() : nullptr; p; p = p->next()) {
+    if (!inList) {
+      const OdResBuf* brace = p->next();
+      if (p->restype() == OdResBuf::kDxfXdAsciiString && p->getString() == kDstyle && brace &&
+          brace->restype() == OdResBuf::kDxfXdControlString && brace->getString() == OdString("{")) {
+        inList = true;
+        p = brace;
+      }
+      continue;
+    }
+    if (p->restype() == OdResBuf::kDxfXdControlString) return false;  // the closing brace
+    const OdResBuf* item = p->next();
+    if (!item || item->restype() == OdResBuf::kDxfXdControlString) return false;
+    Value v;
+    if (OdResBuf::kindOf(p->restype()) == OdResBuf::kInt16 && p->getInt64() == code &&
+        readValue(info(id), item, obj->database(), v) && check(id, v)) {
+      if (value) *value = v;
       return true;
     }
+    p = item;
+  }
   return false;
 }
 

@@ -48,6 +48,17 @@ DB_API const Info* find(const OdString& name);
 // The variable of a group code (0 and unknown codes: null).
 DB_API const Info* byCode(int code);
 
+// The part of a variable a row shows (the DIMROW rows of DimVars.def).
+enum class Part { Whole, LeadingZeros, TrailingZeros, ZeroFeet, ZeroInches, Before, After, Magnitude };
+struct RowUse {
+  Id id;
+  Part part;
+};
+// The variables the row of this untranslated name shows, in table order:
+// the variable whose Row column names it, then the DIMROW rows. Where two
+// variables share a row name, the later one is the angular dimensions'.
+DB_API std::vector<RowUse> rowUses(const char* row);
+
 // Whether `v` is of the variable's kind and within its limit; `why` says
 // what is wrong in a sentence ("DIMTXT must be greater than 0").
 DB_API bool check(Id id, const Value& v, OdString* why = nullptr);

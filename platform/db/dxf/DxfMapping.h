@@ -423,6 +423,17 @@ void extrudedSurfaceFields(Fields<OdDbExtrudedSurface>& f);
 void revolvedSurfaceFields(Fields<OdDbRevolvedSurface>& f);
 void sweptSurfaceFields(Fields<OdDbSweptSurface>& f);
 void loftedSurfaceFields(Fields<OdDbLoftedSurface>& f);
+// The nine kinds of dimension, each with the fields every dimension has
+// (DxfDimension.cpp).
+void rotatedDimensionFields(Fields<OdDbDimension>& f);
+void alignedDimensionFields(Fields<OdDbDimension>& f);
+void twoLineAngularDimensionFields(Fields<OdDbDimension>& f);
+void threePointAngularDimensionFields(Fields<OdDbDimension>& f);
+void diametricDimensionFields(Fields<OdDbDimension>& f);
+void radialDimensionFields(Fields<OdDbDimension>& f);
+void ordinateDimensionFields(Fields<OdDbDimension>& f);
+void arcDimensionFields(Fields<OdDbDimension>& f);
+void largeRadialDimensionFields(Fields<OdDbDimension>& f);
 // DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
 void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 

@@ -357,15 +357,18 @@ print(json.dumps([ezdxf.readfile(sys.argv[1]).entitydb['1EA'].dxf.dimstyle]))
   ASSERT_TRUE(ok);
   EXPECT_EQ(after[0].toString(), QStringLiteral("Annotative"));
 
-  // A new dimension cannot be written yet: its geometry is not modelled.
+  // A new dimension is written whole (without a block: readers draw it).
   OdDbRotatedDimensionPtr dim = OdDbRotatedDimension::createObject();
+  dim->setXLine1Point(OdGePoint3d(1, 2, 0));
+  dim->setXLine2Point(OdGePoint3d(4, 6, 0));
   {
     OdDbObjectPtr ms = db->getModelSpaceId().openObject(OdDb::kForWrite);
     static_cast<OdDbBlockTableRecord*>(ms.get())->appendOdDbEntity(dim.get());
   }
   QString error;
-  EXPECT_TRUE(OdDxf::writeDrawing(db.get(), &error).isEmpty());
-  EXPECT_TRUE(error.contains(QStringLiteral("cannot be written"))) << error.toStdString();
+  const QByteArray withNew = OdDxf::writeDrawing(db.get(), &error);
+  EXPECT_FALSE(withNew.isEmpty()) << error.toStdString();
+  EXPECT_TRUE(withNew.contains(dim->objectId().getHandle().ascii().qstring().toLatin1()));
 }
 
 // A variable the file's release has no group code for is refused when
