@@ -45,6 +45,7 @@ template <class Provider, class = void> struct ZqDrawingClassOf : ZqBaseDrawingC
 #include "ZqProviders.def"
 
 template <class Provider> using ZqParent = typename ZqParentOf<Provider>::type;
+template <class Provider> using ZqDrawingClass = typename ZqDrawingClassOf<Provider>::type;
 
 // What a provider states about itself: everything else is ZqProvider's.
 struct ZqProviderRows {
