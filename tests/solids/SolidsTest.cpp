@@ -226,6 +226,46 @@ print(*["%.9f" % f(v[i] for v in vs) for f in (min, max) for i in range(3)])
   EXPECT_EQ(out.trimmed(), QString("9.000000000 18.000000000 29.500000000 11.000000000 22.000000000 30.500000000"));
 }
 
+// A cone's rows follow its base: four radius rows for an elliptical base,
+// two for a round one; its radii still cannot be changed here.
+TEST_F(SolidsTest, EllipticalConeShowsFourRadiusRows) {
+  OdDbDatabasePtr d = load("ezdxf__examples_dxf__uncommon.dxf");
+  const OdDbObjectId id = byHandle(d.get(), 0x62C);
+  const std::pair<double, const char*> cases[] = {
+      {2, "Solid type!,Position X,Position Y,Position Z,Elliptical!,Base radius,Top radius,Height,Rotation!"},
+      {1, "Solid type!,Position X,Position Y,Position Z,Elliptical!,Base major radius,Base minor radius,"
+          "Top major radius,Top minor radius,Height,Rotation!"}};
+  for (const auto& [minor, rows] : cases) {
+    {
+      OdDb3dSolidPtr s = OdDb3dSolid::cast(id.openObject(OdDb::kForWrite).get());
+      OdDbSolidHistory h = s->history();
+      h.kind = OdDbSolidHistory::kCone;
+      h.values = {{40, 3}, {41, 2}, {42, minor}, {43, 1}};
+      s->setHistory(h);
+    }
+    EXPECT_EQ(ownRows(id).join(','), QString(rows)) << minor;
+    EXPECT_EQ(get(id, "Geometry", "Elliptical").GetCollection().GetCurrent(), minor == 2 ? 1 : 0);
+  }
+  EXPECT_DOUBLE_EQ(get(id, "Geometry", "Top minor radius").GetDouble(), 0.5);  // the base's proportion
+  EXPECT_EQ(set(id, "Geometry", "Height", CZqVariant(4.0, true)), -5001);
+  EXPECT_DOUBLE_EQ(get(id, "Geometry", "Height").GetDouble(), 3);
+}
+
+// Isoline counts are edited, kept through a save, and bad counts refused.
+TEST_F(SolidsTest, SurfaceIsolinesAreEditedAndSaved) {
+  OdDbDatabasePtr d = load("libredwg__test__test-data__2004__Surface.dxf");
+  const OdDbObjectId id = byHandle(d.get(), 0x2D8);
+  const CZqVariant was = get(id, "Geometry", "V isolines");
+  EXPECT_EQ(set(id, "Geometry", "U isolines", CZqVariant(int32_t(12))), 5100);
+  for (const CZqVariant& bad : {CZqVariant(int32_t(-1)), CZqVariant(int32_t(2048)), CZqVariant(2.5, true)})
+    EXPECT_EQ(set(id, "Geometry", "V isolines", bad), -5001);
+  OdDbDatabasePtr again = saveAndReload(d.get());
+  ASSERT_TRUE(again);
+  const OdDbObjectId id2 = byHandle(again.get(), 0x2D8);
+  EXPECT_EQ(get(id2, "Geometry", "U isolines").GetInt32(), 12);
+  EXPECT_EQ(get(id2, "Geometry", "V isolines").GetInt32(), was.GetInt32());
+}
+
 // Parameters that make no solid are refused with a sentence; the solid
 // keeps its body and history.
 TEST_F(SolidsTest, ParametersThatMakeNoSolidAreRefused) {
