@@ -204,6 +204,15 @@ int setValue(const OdDbObject* object, const CZqPropertyDescription& description
   return rebuildWith(object, {{Code, v}});
 }
 
+// A round base's radius: both of its axes.
+int setRound(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
+             const CZqVariant&) {
+  if (!ZqWritable<S>(object)) return kZqSetRefused;
+  double v = 0;
+  if (const int refused = ZqTakeDouble(description, value, v)) return refused;
+  return rebuildWith(object, {{41, v}, {42, v}});
+}
+
 int setDiameter(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
                 const CZqVariant&) {
   if (!ZqWritable<S>(object)) return kZqSetRefused;
@@ -292,16 +301,16 @@ const ZqConditionalRow kBoxRows[] = {
 
 const ZqConditionalRow kCylinderRows[] = {
   {cylinderOrCone,     {G, N("Elliptical"),        kZqCollection, nullptr, cylinderReadOnly, getElliptical, keepAsIs,      "Geometry_Elliptical"}},
-  {ellipticalCylinder, {G, N("Major radius"),      kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  refuseRebuild, "Geometry_MajorRadius", kVisKeep, kSize}},
-  {ellipticalCylinder, {G, N("Minor radius"),      kZqDouble,     nullptr, cylinderReadOnly, getValue<42>,  refuseRebuild, "Geometry_MinorRadius", kVisKeep, kSize}},
-  {roundCylinder,      {G, N("Radius"),            kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  refuseRebuild, "Geometry_Radius",      kVisKeep, kSize}},
-  {roundCone,          {G, N("Base radius"),       kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  refuseRebuild, "Geometry_Radius",      kVisKeep, kSize}},
-  {roundCone,          {G, N("Top radius"),        kZqDouble,     nullptr, cylinderReadOnly, getValue<43>,  refuseRebuild, "Geometry_Radius",      kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
-  {ellipticalCone,     {G, N("Base major radius"), kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  refuseRebuild, "Geometry_MajorRadius", kVisKeep, kSize}},
-  {ellipticalCone,     {G, N("Base minor radius"), kZqDouble,     nullptr, cylinderReadOnly, getValue<42>,  refuseRebuild, "Geometry_MinorRadius", kVisKeep, kSize}},
-  {ellipticalCone,     {G, N("Top major radius"),  kZqDouble,     nullptr, cylinderReadOnly, getValue<43>,  refuseRebuild, "Geometry_MajorRadius", kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
+  {ellipticalCylinder, {G, N("Major radius"),      kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  setValue<41> , "Geometry_MajorRadius", kVisKeep, kSize}},
+  {ellipticalCylinder, {G, N("Minor radius"),      kZqDouble,     nullptr, cylinderReadOnly, getValue<42>,  setValue<42> , "Geometry_MinorRadius", kVisKeep, kSize}},
+  {roundCylinder,      {G, N("Radius"),            kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  setRound     , "Geometry_Radius",      kVisKeep, kSize}},
+  {roundCone,          {G, N("Base radius"),       kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  setRound     , "Geometry_Radius",      kVisKeep, kSize}},
+  {roundCone,          {G, N("Top radius"),        kZqDouble,     nullptr, cylinderReadOnly, getValue<43>,  setValue<43> , "Geometry_Radius",      kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
+  {ellipticalCone,     {G, N("Base major radius"), kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  setValue<41> , "Geometry_MajorRadius", kVisKeep, kSize}},
+  {ellipticalCone,     {G, N("Base minor radius"), kZqDouble,     nullptr, cylinderReadOnly, getValue<42>,  setValue<42> , "Geometry_MinorRadius", kVisKeep, kSize}},
+  {ellipticalCone,     {G, N("Top major radius"),  kZqDouble,     nullptr, cylinderReadOnly, getValue<43>,  setValue<43> , "Geometry_MajorRadius", kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
   {ellipticalCone,     {G, N("Top minor radius"),  kZqDouble,     nullptr, cylinderReadOnly, getTopMinor,   refuseRebuild, "Geometry_MinorRadius", kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
-  {cylinderOrCone,     {G, N("Height"),            kZqDouble,     nullptr, cylinderReadOnly, getValue<40>,  refuseRebuild, "Geometry_Height",      kVisKeep, kSize}},
+  {cylinderOrCone,     {G, N("Height"),            kZqDouble,     nullptr, cylinderReadOnly, getValue<40>,  setValue<40> , "Geometry_Height",      kVisKeep, kSize}},
   {cylinderOrCone,     {G, N("Rotation"),          kZqDouble,     kAngle,  cylinderReadOnly, getRotation,   keepAsIs,      "Misc_Rotation"}},
 };
 

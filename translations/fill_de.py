@@ -220,8 +220,8 @@ DE.setdefault("OdDbAcis", {}).update({
         "Der Körper ist in einem alten Modelliererformat gespeichert, das hier nicht geschrieben werden kann.",
     "The tube radius must be smaller than the torus radius.":
         "Der Rohrradius muss kleiner als der Torusradius sein.",
-    "The body of a cylinder or cone cannot be built here yet. Nothing was changed.":
-        "Der Körper eines Zylinders oder Kegels kann hier noch nicht aufgebaut werden. Es wurde nichts geändert.",
+    "A cone's top radius must differ from its base radius.":
+        "Der obere Radius eines Kegels muss sich von seinem Basisradius unterscheiden.",
     "The solid has no history to build its body from.":
         "Der Volumenkörper hat keinen Verlauf, aus dem sein Körper aufgebaut werden könnte.",
     "The solid was made from curves its history does not keep, so its body cannot be built again. Nothing was changed.":

@@ -201,9 +201,19 @@ bool OdDbAcis::extents(const OdDbAcisData& data, OdGeExtents3d& ext, QString* wh
     if (r.type == "point") {
       if (const auto p = pt(r, 1)) add(*p, 0);
     } else if (r.type == "ellipse-curve") {
+      // The whole ellipse c + u cos t + w sin t reaches sqrt(u^2 + w^2) along each axis.
       const auto c = pt(r, 1);
-      const auto major = vec(r, 7);
-      if (c && major) add(*c, major->length());
+      const auto n = vec(r, 4), major = vec(r, 7);
+      const auto ratio = num(r, 10);
+      if (c && n && major && ratio && !n->isZeroLength()) {
+        const OdGeVector3d w = n->normal().crossProduct(*major) * *ratio;
+        const OdGeVector3d reach(std::hypot(major->x, w.x), std::hypot(major->y, w.y), std::hypot(major->z, w.z));
+        e.addPoint(*c - reach);
+        e.addPoint(*c + reach);
+        any = true;
+      } else if (c && major) {
+        add(*c, major->length());
+      }
     } else if (r.type == "sphere-surface") {
       const auto c = pt(r, 1);
       const auto radius = num(r, 4);

@@ -449,6 +449,129 @@ void writeClosedSurface(AcisWriter& w, int first, const ClosedSurfaceBody& s, co
   w.end();
 }
 
+// A cylinder or cone about Z: elliptical base (major along X) at -h/2, top
+// at +h/2 scaled by top/base (no top face when it comes to a point).
+struct ConeBody {
+  double height = 0, major = 0, minor = 0, topMajor = 0;
+};
+
+void writeCone(AcisWriter& w, int first, const ConeBody& c, const OdGeMatrix3d& m) {
+  const bool apex = c.topMajor == 0;
+  const double ratio = c.minor / c.major, z0 = -c.height / 2, z1 = c.height / 2;
+  // Records: side face, bottom face, [top face], their loops, surfaces,
+  // coedges (side-bottom, bottom, [side-top, top]), edges, curves, vertices, points.
+  const int nFaces = apex ? 2 : 3, nEdges = apex ? 1 : 2;
+  const int faces = first + 4, loops = faces + nFaces, nLoops = apex ? 2 : 4, surfaces = loops + nLoops,
+            coedges = surfaces + nFaces, edges = coedges + 2 * nEdges, curves = edges + nEdges,
+            vertices = curves + nEdges, points = vertices + nEdges;
+  writeFrameRecords(w, first, faces, m);
+  for (int f = 0; f < nFaces; ++f) {
+    w.begin("face");
+    w.ptr(f + 1 < nFaces ? faces + f + 1 : -1);
+    // The side face has its bottom loop first and its top loop after it.
+    w.ptr(f == 0 ? loops : loops + (f == 1 ? (apex ? 1 : 2) : 3));
+    w.ptr(first + 2);
+    w.ptr(-1);
+    w.ptr(surfaces + f);
+    w.word(false, "reversed", "forward");
+    w.word(false, "double", "single");
+    w.end();
+  }
+  // Loops: side-bottom, [side-top], bottom, [top]; each of one coedge.
+  struct LoopOf { int next, coedge, face; };
+  std::vector<LoopOf> loopList;
+  if (apex) loopList = {{-1, 0, 0}, {-1, 1, 1}};
+  else loopList = {{loops + 1, 0, 0}, {-1, 2, 0}, {-1, 1, 1}, {-1, 3, 2}};
+  for (const LoopOf& l : loopList) {
+    w.begin("loop");
+    w.ptr(l.next);
+    w.ptr(coedges + l.coedge);
+    w.ptr(faces + l.face);
+    w.end();
+  }
+  // Side: the base ellipse, the half angle from the radius change over the height.
+  const double slope = (c.topMajor - c.major) / c.height;
+  const double angle = std::atan(slope);
+  w.begin("cone-surface");
+  w.location({0, 0, z0});
+  w.direction(OdGeVector3d::kZAxis);
+  w.direction({c.major, 0, 0});
+  w.real(ratio);
+  w.infinite();
+  w.infinite();
+  w.real(std::sin(angle));
+  w.real(std::cos(angle));
+  w.real(c.major);
+  w.word(false, "reversed", "forward");
+  for (int i = 0; i < 4; ++i) w.infinite();
+  w.end();
+  // Bottom and top planes, facing out.
+  for (int f = 1; f < nFaces; ++f) {
+    w.begin("plane-surface");
+    w.location({0, 0, f == 1 ? z0 : z1});
+    w.direction(f == 1 ? -OdGeVector3d::kZAxis : OdGeVector3d::kZAxis);
+    w.direction(OdGeVector3d::kXAxis);
+    w.word(false, "reverse_v", "forward_v");
+    for (int i = 0; i < 4; ++i) w.infinite();
+    w.end();
+  }
+  // Coedges: 0 side on the bottom edge, 1 bottom face on it, 2 side on the
+  // top edge, 3 top face on it. Edges run counter-clockwise seen from +Z;
+  // the bottom face and the side's top loop walk them backwards.
+  struct CoedgeOf { int partner, edge; bool reversed; int loop; };
+  std::vector<CoedgeOf> list = {{1, 0, false, 0}, {0, 0, true, apex ? 1 : 2}};
+  if (!apex) {
+    list.push_back({3, 1, true, 1});
+    list.push_back({2, 1, false, 3});
+  }
+  for (int i = 0; i < int(list.size()); ++i) {
+    w.begin("coedge");
+    w.ptr(coedges + i);
+    w.ptr(coedges + i);
+    w.ptr(coedges + list[size_t(i)].partner);
+    w.ptr(edges + list[size_t(i)].edge);
+    w.word(list[size_t(i)].reversed, "reversed", "forward");
+    w.ptr(loops + list[size_t(i)].loop);
+    w.integer(0, false);
+    w.ptr(-1);
+    w.end();
+  }
+  for (int e = 0; e < nEdges; ++e) {
+    w.begin("edge");
+    w.ptr(vertices + e);
+    w.real(0);
+    w.ptr(vertices + e);
+    w.real(Oda2PI);
+    w.ptr(coedges + 2 * e);
+    w.ptr(curves + e);
+    w.word(false, "reversed", "forward");
+    w.string("unknown");
+    w.end();
+  }
+  for (int e = 0; e < nEdges; ++e) {
+    w.begin("ellipse-curve");
+    w.location({0, 0, e == 0 ? z0 : z1});
+    w.direction(OdGeVector3d::kZAxis);
+    w.direction({e == 0 ? c.major : c.topMajor, 0, 0});
+    w.real(ratio);
+    w.infinite();
+    w.infinite();
+    w.end();
+  }
+  for (int e = 0; e < nEdges; ++e) {
+    w.begin("vertex");
+    w.ptr(edges + e);
+    w.integer(0, false);
+    w.ptr(points + e);
+    w.end();
+  }
+  for (int e = 0; e < nEdges; ++e) {
+    w.begin("point");
+    w.location({e == 0 ? c.major : c.topMajor, 0, e == 0 ? z0 : z1});
+    w.end();
+  }
+}
+
 // A regular polygon of n corners at height z: its corners lie on `radius`
 // (corner type) or its sides touch it (side type).
 void polygon(std::vector<OdGePoint3d>& out, int n, double radius, bool sideType, double z) {
@@ -473,7 +596,8 @@ bool OdDbAcis::buildPrimitive(const OdDbSolidHistory& h, const OdDbAcisData& lik
     return fail(tr("The body is stored in an old modeller format that cannot be written here."));
   Polyhedron poly;
   ClosedSurfaceBody closed;
-  bool isClosed = false;
+  ConeBody cone;
+  bool isClosed = false, isCone = false;
   // Every primitive stands about its origin, its height along Z centred.
   switch (h.kind) {
     case OdDbSolidHistory::kBox:
@@ -530,8 +654,18 @@ bool OdDbAcis::buildPrimitive(const OdDbSolidHistory& h, const OdDbAcisData& lik
       isClosed = true;
       break;
     case OdDbSolidHistory::kCylinder:
-    case OdDbSolidHistory::kCone:
-      return fail(tr("The body of a cylinder or cone cannot be built here yet. Nothing was changed."));
+    case OdDbSolidHistory::kCone: {
+      cone.height = h.value(40);
+      cone.major = h.value(41);
+      cone.minor = h.value(42, cone.major);
+      cone.topMajor = h.kind == OdDbSolidHistory::kCylinder ? cone.major : h.value(43);
+      if (!(cone.height > 0 && cone.major > 0 && cone.minor > 0 && cone.topMajor >= 0)) return fail(invalid);
+      // A top as wide as the base is a cylinder, not a cone.
+      if (h.kind == OdDbSolidHistory::kCone && std::fabs(cone.topMajor - cone.major) <= 1e-10 * cone.major)
+        return fail(tr("A cone's top radius must differ from its base radius."));
+      isCone = true;
+      break;
+    }
     case OdDbSolidHistory::kNone:
       return fail(tr("The solid has no history to build its body from."));
     default:
@@ -541,6 +675,7 @@ bool OdDbAcis::buildPrimitive(const OdDbSolidHistory& h, const OdDbAcisData& lik
   AcisWriter w(frame.binary);
   const int first = frame.asmHeader.isEmpty() ? 0 : 1;
   if (isClosed) writeClosedSurface(w, first, closed, h.transform);
+  else if (isCone) writeCone(w, first, cone, h.transform);
   else writePolyhedron(w, first, poly, h.transform);
   QByteArray bytes = frame.head + frame.asmHeader + w.bytes() + frame.tail;
   OdDbAcisData result;

@@ -167,6 +167,8 @@ TEST_F(SolidsTest, EachPrimitiveKindRebuildsItsBody) {
       {OdDbSolidHistory::kWedge, {{40, 4}, {41, 3}, {42, 2}}, {4, 3, 2}},
       {OdDbSolidHistory::kPyramid, {{40, 5}, {41, 2}, {42, 0}, {92, 4}, {280, 0}}, {4, 4, 5}},
       {OdDbSolidHistory::kPyramid, {{40, 5}, {41, 2}, {42, 1}, {92, 4}, {280, 1}}, {2 * r4, 2 * r4, 5}},
+      {OdDbSolidHistory::kCylinder, {{40, 3}, {41, 2}, {42, 2}}, {4, 4, 3}},
+      {OdDbSolidHistory::kCone, {{40, 2}, {41, 3}, {42, 1}, {43, 4}}, {8, 2 * 4.0 / 3, 2}},
       {OdDbSolidHistory::kSphere, {{40, 1.5}}, {3, 3, 3}},
       {OdDbSolidHistory::kTorus, {{40, 4}, {41, 1}}, {10, 10, 10}},  // the box read around a torus is its ball
   };
@@ -227,7 +229,7 @@ print(*["%.9f" % f(v[i] for v in vs) for f in (min, max) for i in range(3)])
 }
 
 // A cone's rows follow its base: four radius rows for an elliptical base,
-// two for a round one; its radii still cannot be changed here.
+// two for a round one; a new height builds the elliptical body.
 TEST_F(SolidsTest, EllipticalConeShowsFourRadiusRows) {
   OdDbDatabasePtr d = load("ezdxf__examples_dxf__uncommon.dxf");
   const OdDbObjectId id = byHandle(d.get(), 0x62C);
@@ -247,8 +249,10 @@ TEST_F(SolidsTest, EllipticalConeShowsFourRadiusRows) {
     EXPECT_EQ(get(id, "Geometry", "Elliptical").GetCollection().GetCurrent(), minor == 2 ? 1 : 0);
   }
   EXPECT_DOUBLE_EQ(get(id, "Geometry", "Top minor radius").GetDouble(), 0.5);  // the base's proportion
-  EXPECT_EQ(set(id, "Geometry", "Height", CZqVariant(4.0, true)), -5001);
-  EXPECT_DOUBLE_EQ(get(id, "Geometry", "Height").GetDouble(), 3);
+  EXPECT_EQ(set(id, "Geometry", "Height", CZqVariant(4.0, true)), 5100);
+  OdGeExtents3d e;
+  ASSERT_TRUE(openAs<OdDb3dSolid>(id)->bodyExtents(e));
+  EXPECT_TRUE(sizeOf(e).isEqualTo({4, 2, 4}, OdGeTol(1e-9)));
 }
 
 // Isoline counts are edited, kept through a save, and bad counts refused.
@@ -280,6 +284,8 @@ TEST_F(SolidsTest, ParametersThatMakeNoSolidAreRefused) {
       {OdDbSolidHistory::kTorus, {{40, 2}, {41, 2}}},
       {OdDbSolidHistory::kPyramid, {{40, 1}, {41, 1}, {42, 0}, {92, 2}}},
       {OdDbSolidHistory::kSphere, {{40, 0}}},
+      {OdDbSolidHistory::kCone, {{40, 1}, {41, 2}, {42, 2}, {43, 2}}},
+      {OdDbSolidHistory::kCylinder, {{40, 1}, {41, 2}, {42, 0}}},
       {OdDbSolidHistory::kExtrude, {{40, 1}}},
   };
   for (const auto& [kind, values] : bad) {
