@@ -167,6 +167,69 @@ int refuseRebuild(const OdDbObject* object, const CZqPropertyDescription& descri
                           .arg(description.GetName().qstring()));
 }
 
+// The history with one parameter set: the first value of the code
+// replaced, or added when the record has none.
+H withValue(const H& h, int code, double v) {
+  H out = h;
+  for (auto& [c, value] : out.values)
+    if (c == code) {
+      value = v;
+      return out;
+    }
+  out.values.emplace_back(code, v);
+  return out;
+}
+
+// Sets history parameters and builds the body anew from them; a body that
+// cannot be built refuses with its reason, and nothing changes.
+int rebuildWith(const OdDbObject* object, std::initializer_list<std::pair<int, double>> values) {
+  S* solid = ZqWritable<S>(object);
+  if (!solid) return kZqSetRefused;
+  H h = solid->history();
+  for (const auto& [code, v] : values) h = withValue(h, code, v);
+  if (h == solid->history()) return kZqSetApplied;
+  QString why;
+  if (!solid->rebuild(h, &why)) return ZqRefuseWith(why);
+  return kZqSetApplied;
+}
+
+// A parameter row's setter: the value (checked against the row's limit)
+// becomes the parameter of the group code.
+template <int Code>
+int setValue(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
+             const CZqVariant&) {
+  if (!ZqWritable<S>(object)) return kZqSetRefused;
+  double v = 0;
+  if (const int refused = ZqTakeDouble(description, value, v)) return refused;
+  return rebuildWith(object, {{Code, v}});
+}
+
+// A round base's radius: both of its axes.
+int setRound(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
+             const CZqVariant&) {
+  if (!ZqWritable<S>(object)) return kZqSetRefused;
+  double v = 0;
+  if (const int refused = ZqTakeDouble(description, value, v)) return refused;
+  return rebuildWith(object, {{41, v}, {42, v}});
+}
+
+int setDiameter(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
+                const CZqVariant&) {
+  if (!ZqWritable<S>(object)) return kZqSetRefused;
+  double v = 0;
+  if (const int refused = ZqTakeDouble(description, value, v)) return refused;
+  return rebuildWith(object, {{40, v / 2}});
+}
+
+int setSides(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {
+  if (!ZqWritable<S>(object)) return kZqSetRefused;
+  if (value.GetType() != CZqVariant::kVtInt32) return kZqSetRefused;
+  const int n = value.GetInt32();
+  if (n < 3 || n > 32)
+    return ZqRefuseWith(QCoreApplication::translate("errors", "A pyramid has from 3 to 32 sides."));
+  return rebuildWith(object, {{92, double(n)}});
+}
+
 const ZqChoice kPyramidTypes[] = {{QT_TRANSLATE_NOOP("property_values", "Corner"), 0},
                                   {QT_TRANSLATE_NOOP("property_values", "Side"), 1}};
 const ZqChoice kNormalTypes[] = {{QT_TRANSLATE_NOOP("property_values", "Ruled"), 0},
@@ -177,6 +240,15 @@ const ZqChoice kNormalTo[] = {{QT_TRANSLATE_NOOP("property_values", "All Cross S
                               {QT_TRANSLATE_NOOP("property_values", "Beginning and Ending Cross Sections"), 1},
                               {QT_TRANSLATE_NOOP("property_values", "Beginning Cross Section"), 2},
                               {QT_TRANSLATE_NOOP("property_values", "Ending Cross Section"), 3}};
+
+int setPyramidType(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
+                   const CZqVariant&) {
+  int32_t tag = 0;
+  if (!ZqWritable<S>(object) || !ZqChosenTag(value, tag)) return kZqSetRefused;
+  if (ZqChoiceIndex(kPyramidTypes, tag) < 0)
+    return ZqRefuseWith(ZqChoicesSentence(description.GetName().qstring(), kPyramidTypes));
+  return rebuildWith(object, {{280, double(tag)}});
+}
 
 // The read-only test of each kind, keyed on the row's translated name.
 bool boxReadOnly(const OdDbObject*, const CZqPropertyDescription& d) { return named(d, "Rotation"); }
@@ -221,45 +293,45 @@ const ZqConditionalRow kSolidRows[] = {
 };
 
 const ZqConditionalRow kBoxRows[] = {
-  {always, {G,  N("Length"),                kZqDouble,     nullptr,  boxReadOnly,       getValue<40>,      refuseRebuild, "Geometry_Length",   kVisKeep, kSize}},
-  {always, {G,  N("Width"),                 kZqDouble,     nullptr,  boxReadOnly,       getValue<41>,      refuseRebuild, "Geometry_Width",    kVisKeep, kSize}},
-  {always, {G,  N("Height"),                kZqDouble,     nullptr,  boxReadOnly,       getValue<42>,      refuseRebuild, "Geometry_Height",   kVisKeep, kSize}},
+  {always, {G,  N("Length"),                kZqDouble,     nullptr,  boxReadOnly,       getValue<40>,      setValue<40>  , "Geometry_Length",   kVisKeep, kSize}},
+  {always, {G,  N("Width"),                 kZqDouble,     nullptr,  boxReadOnly,       getValue<41>,      setValue<41>  , "Geometry_Width",    kVisKeep, kSize}},
+  {always, {G,  N("Height"),                kZqDouble,     nullptr,  boxReadOnly,       getValue<42>,      setValue<42>  , "Geometry_Height",   kVisKeep, kSize}},
   {always, {G,  N("Rotation"),              kZqDouble,     kAngle,   boxReadOnly,       getRotation,       keepAsIs,      "Misc_Rotation"}},
 };
 
 const ZqConditionalRow kCylinderRows[] = {
   {cylinderOrCone,     {G, N("Elliptical"),        kZqCollection, nullptr, cylinderReadOnly, getElliptical, keepAsIs,      "Geometry_Elliptical"}},
-  {ellipticalCylinder, {G, N("Major radius"),      kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  refuseRebuild, "Geometry_MajorRadius", kVisKeep, kSize}},
-  {ellipticalCylinder, {G, N("Minor radius"),      kZqDouble,     nullptr, cylinderReadOnly, getValue<42>,  refuseRebuild, "Geometry_MinorRadius", kVisKeep, kSize}},
-  {roundCylinder,      {G, N("Radius"),            kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  refuseRebuild, "Geometry_Radius",      kVisKeep, kSize}},
-  {roundCone,          {G, N("Base radius"),       kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  refuseRebuild, "Geometry_Radius",      kVisKeep, kSize}},
-  {roundCone,          {G, N("Top radius"),        kZqDouble,     nullptr, cylinderReadOnly, getValue<43>,  refuseRebuild, "Geometry_Radius",      kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
-  {ellipticalCone,     {G, N("Base major radius"), kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  refuseRebuild, "Geometry_MajorRadius", kVisKeep, kSize}},
-  {ellipticalCone,     {G, N("Base minor radius"), kZqDouble,     nullptr, cylinderReadOnly, getValue<42>,  refuseRebuild, "Geometry_MinorRadius", kVisKeep, kSize}},
-  {ellipticalCone,     {G, N("Top major radius"),  kZqDouble,     nullptr, cylinderReadOnly, getValue<43>,  refuseRebuild, "Geometry_MajorRadius", kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
+  {ellipticalCylinder, {G, N("Major radius"),      kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  setValue<41> , "Geometry_MajorRadius", kVisKeep, kSize}},
+  {ellipticalCylinder, {G, N("Minor radius"),      kZqDouble,     nullptr, cylinderReadOnly, getValue<42>,  setValue<42> , "Geometry_MinorRadius", kVisKeep, kSize}},
+  {roundCylinder,      {G, N("Radius"),            kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  setRound     , "Geometry_Radius",      kVisKeep, kSize}},
+  {roundCone,          {G, N("Base radius"),       kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  setRound     , "Geometry_Radius",      kVisKeep, kSize}},
+  {roundCone,          {G, N("Top radius"),        kZqDouble,     nullptr, cylinderReadOnly, getValue<43>,  setValue<43> , "Geometry_Radius",      kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
+  {ellipticalCone,     {G, N("Base major radius"), kZqDouble,     nullptr, cylinderReadOnly, getValue<41>,  setValue<41> , "Geometry_MajorRadius", kVisKeep, kSize}},
+  {ellipticalCone,     {G, N("Base minor radius"), kZqDouble,     nullptr, cylinderReadOnly, getValue<42>,  setValue<42> , "Geometry_MinorRadius", kVisKeep, kSize}},
+  {ellipticalCone,     {G, N("Top major radius"),  kZqDouble,     nullptr, cylinderReadOnly, getValue<43>,  setValue<43> , "Geometry_MajorRadius", kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
   {ellipticalCone,     {G, N("Top minor radius"),  kZqDouble,     nullptr, cylinderReadOnly, getTopMinor,   refuseRebuild, "Geometry_MinorRadius", kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
-  {cylinderOrCone,     {G, N("Height"),            kZqDouble,     nullptr, cylinderReadOnly, getValue<40>,  refuseRebuild, "Geometry_Height",      kVisKeep, kSize}},
+  {cylinderOrCone,     {G, N("Height"),            kZqDouble,     nullptr, cylinderReadOnly, getValue<40>,  setValue<40> , "Geometry_Height",      kVisKeep, kSize}},
   {cylinderOrCone,     {G, N("Rotation"),          kZqDouble,     kAngle,  cylinderReadOnly, getRotation,   keepAsIs,      "Misc_Rotation"}},
 };
 
 const ZqConditionalRow kPyramidRows[] = {
-  {always, {G, N("Type"),        kZqCollection, nullptr, pyramidReadOnly, getChoice<280, kPyramidTypes>, refuseRebuild, "Geometry_PyramidType"}},
-  {always, {G, N("Base radius"), kZqDouble,     nullptr, pyramidReadOnly, getValue<41>,  refuseRebuild, "Geometry_Radius", kVisKeep, kSize}},
-  {always, {G, N("Top radius"),  kZqDouble,     nullptr, pyramidReadOnly, getValue<42>,  refuseRebuild, "Geometry_Radius", kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
-  {always, {G, N("Side"),        kZqInt32,      nullptr, pyramidReadOnly, getCount<92>,  refuseRebuild, "Geometry_Sides"}},
-  {always, {G, N("Height"),      kZqDouble,     nullptr, pyramidReadOnly, getValue<40>,  refuseRebuild, "Geometry_Height", kVisKeep, kSize}},
+  {always, {G, N("Type"),        kZqCollection, nullptr, pyramidReadOnly, getChoice<280, kPyramidTypes>, setPyramidType, "Geometry_PyramidType"}},
+  {always, {G, N("Base radius"), kZqDouble,     nullptr, pyramidReadOnly, getValue<41>,  setValue<41>,  "Geometry_Radius", kVisKeep, kSize}},
+  {always, {G, N("Top radius"),  kZqDouble,     nullptr, pyramidReadOnly, getValue<42>,  setValue<42> , "Geometry_Radius", kVisKeep, ZqMessage(kZqNonNegative, "Invalid input.")}},
+  {always, {G, N("Side"),        kZqInt32,      nullptr, pyramidReadOnly, getCount<92>,  setSides     , "Geometry_Sides"}},
+  {always, {G, N("Height"),      kZqDouble,     nullptr, pyramidReadOnly, getValue<40>,  setValue<40> , "Geometry_Height", kVisKeep, kSize}},
   {always, {G, N("Rotation"),    kZqDouble,     kAngle,  pyramidReadOnly, getRotation,   keepAsIs,      "Misc_Rotation"}},
 };
 
 const ZqConditionalRow kSphereRows[] = {
-  {always, {G, N("Radius"),   kZqDouble, nullptr, kZqEditable, getValue<40>, refuseRebuild, "Geometry_Radius",   kVisKeep, kSize}},
-  {always, {G, N("Diameter"), kZqDouble, nullptr, kZqEditable, getDiameter,  refuseRebuild, "Geometry_Diameter", kVisKeep, kSize}},
+  {always, {G, N("Radius"),   kZqDouble, nullptr, kZqEditable, getValue<40>, setValue<40>,  "Geometry_Radius",   kVisKeep, kSize}},
+  {always, {G, N("Diameter"), kZqDouble, nullptr, kZqEditable, getDiameter,  setDiameter  , "Geometry_Diameter", kVisKeep, kSize}},
 };
 
 // Both torus rows use the length icon.
 const ZqConditionalRow kTorusRows[] = {
-  {always, {G, N("Radius of torus"), kZqDouble, nullptr, kZqEditable, getValue<40>, refuseRebuild, "Geometry_Length", kVisKeep, kSize}},
-  {always, {G, N("Radius of tube"),  kZqDouble, nullptr, kZqEditable, getValue<41>, refuseRebuild, "Geometry_Length", kVisKeep, kSize}},
+  {always, {G, N("Radius of torus"), kZqDouble, nullptr, kZqEditable, getValue<40>, setValue<40>,  "Geometry_Length", kVisKeep, kSize}},
+  {always, {G, N("Radius of tube"),  kZqDouble, nullptr, kZqEditable, getValue<41>, setValue<41>,  "Geometry_Length", kVisKeep, kSize}},
 };
 
 const ZqConditionalRow kExtrusionRows[] = {

@@ -438,6 +438,23 @@ DE.setdefault("errors", {}).update({
     "The solid's position is not known, so it cannot be moved.":
         "Die Position des Volumenkörpers ist unbekannt, daher kann er nicht verschoben werden."})
 
+# Solid primitives: a changed parameter builds the body anew.
+DE.setdefault("OdDbAcis", {}).update({
+    "The body is stored in an old modeller format that cannot be written here.":
+        "Der Körper ist in einem alten Modelliererformat gespeichert, das hier nicht geschrieben werden kann.",
+    "The tube radius must be smaller than the torus radius.":
+        "Der Rohrradius muss kleiner als der Torusradius sein.",
+    "A cone's top radius must differ from its base radius.":
+        "Der obere Radius eines Kegels muss sich von seinem Basisradius unterscheiden.",
+    "The solid has no history to build its body from.":
+        "Der Volumenkörper hat keinen Verlauf, aus dem sein Körper aufgebaut werden könnte.",
+    "The solid was made from curves its history does not keep, so its body cannot be built again. Nothing was changed.":
+        "Der Volumenkörper wurde aus Kurven erzeugt, die sein Verlauf nicht aufbewahrt; sein Körper kann daher nicht "
+        "neu aufgebaut werden. Es wurde nichts geändert.",
+    "The modeller data is binary and cannot be moved here.":
+        "Die Modelliererdaten sind binär und können hier nicht verschoben werden."})
+DE.setdefault("errors", {}).update({"A pyramid has from 3 to 32 sides.": "Eine Pyramide hat 3 bis 32 Seiten."})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

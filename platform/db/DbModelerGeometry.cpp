@@ -89,6 +89,12 @@ class Sat {
  private:
   void normalize(SatRecord& r) const {
     if (m_version < 700 || r.f.size() < 3) return;
+    // A transform has the number but no pointer after it.
+    if (r.type == "transform" && !r.f[1].startsWith('$')) {
+      r.f.erase(r.f.begin() + 1);
+      r.at.erase(r.at.begin() + 1);
+      return;
+    }
     const QByteArray& a = r.f[1];
     if (!a.startsWith('$') && r.f[2].startsWith('$')) {
       r.f.erase(r.f.begin() + 1, r.f.begin() + 3);
@@ -128,12 +134,13 @@ std::optional<OdGePoint3d> pt(const SatRecord& r, size_t i) {
 }
 
 bool parseData(const OdDbAcisData& data, Sat& sat, QString* why) {
-  if (data.sat.isEmpty()) {
-    if (why) *why = data.sab.isEmpty() ? tr("The object has no modeller data.")
-                                       : tr("The modeller data is binary and cannot be read here.");
+  if (data.sat.isEmpty() && data.sab.isEmpty()) {
+    if (why) *why = tr("The object has no modeller data.");
     return false;
   }
-  if (!sat.parse(data.sat)) {
+  const QByteArray text = data.sat.isEmpty() ? OdDbAcis::sabToText(data.sab, why) : data.sat;
+  if (text.isEmpty()) return false;
+  if (!sat.parse(text)) {
     if (why) *why = tr("The modeller data is damaged or cut off.");
     return false;
   }
@@ -194,9 +201,19 @@ bool OdDbAcis::extents(const OdDbAcisData& data, OdGeExtents3d& ext, QString* wh
     if (r.type == "point") {
       if (const auto p = pt(r, 1)) add(*p, 0);
     } else if (r.type == "ellipse-curve") {
+      // The whole ellipse c + u cos t + w sin t reaches sqrt(u^2 + w^2) along each axis.
       const auto c = pt(r, 1);
-      const auto major = vec(r, 7);
-      if (c && major) add(*c, major->length());
+      const auto n = vec(r, 4), major = vec(r, 7);
+      const auto ratio = num(r, 10);
+      if (c && n && major && ratio && !n->isZeroLength()) {
+        const OdGeVector3d w = n->normal().crossProduct(*major) * *ratio;
+        const OdGeVector3d reach(std::hypot(major->x, w.x), std::hypot(major->y, w.y), std::hypot(major->z, w.z));
+        e.addPoint(*c - reach);
+        e.addPoint(*c + reach);
+        any = true;
+      } else if (c && major) {
+        add(*c, major->length());
+      }
     } else if (r.type == "sphere-surface") {
       const auto c = pt(r, 1);
       const auto radius = num(r, 4);
@@ -210,6 +227,26 @@ bool OdDbAcis::extents(const OdDbAcisData& data, OdGeExtents3d& ext, QString* wh
   if (!any) {
     if (why) *why = tr("The modeller data holds no geometry whose position is known.");
     return false;
+  }
+  // The body's transform places its own coordinates in the drawing: rows
+  // are the images of the axes, then the translation and a scale.
+  for (const SatRecord& r : sat.records()) {
+    if (r.type != "body") continue;
+    const SatRecord* t = sat.at(ptr(r, 3));
+    if (!t || t->type != "transform") break;
+    const auto x = vec(*t, 1), y = vec(*t, 4), z = vec(*t, 7), move = vec(*t, 10);
+    const auto scale = num(*t, 13);
+    if (!x || !y || !z || !move) break;
+    const double s = scale ? *scale : 1.0;
+    OdGeExtents3d placed;
+    for (int corner = 0; corner < 8; ++corner) {
+      const OdGePoint3d& lo = e.minPoint();
+      const OdGePoint3d& hi = e.maxPoint();
+      const double px = corner & 1 ? hi.x : lo.x, py = corner & 2 ? hi.y : lo.y, pz = corner & 4 ? hi.z : lo.z;
+      placed.addPoint(OdGePoint3d::kOrigin + (*x * px + *y * py + *z * pz) * s + *move);
+    }
+    e = placed;
+    break;
   }
   ext = e;
   return true;
@@ -323,8 +360,16 @@ bool OdDbAcis::regionMeasures(const OdDbAcisData& data, double& area, double& pe
 }
 
 bool OdDbAcis::translate(OdDbAcisData& data, const OdGeVector3d& by, QString* why) {
+  if (data.sat.isEmpty() && !data.sab.isEmpty()) {
+    if (why) *why = tr("The modeller data is binary and cannot be moved here.");
+    return false;
+  }
   Sat sat;
   if (!parseData(data, sat, why)) return false;
+  // A body with a transform keeps its geometry in its own coordinates:
+  // moving the transform moves it all.
+  bool transformed = false;
+  for (const SatRecord& r : sat.records()) transformed = transformed || r.type == "transform";
   // Records whose first three numbers (after the attribute pointer) are a
   // position; a transform's translation follows its nine matrix entries.
   struct Moved {
@@ -339,12 +384,12 @@ bool OdDbAcis::translate(OdDbAcisData& data, const OdGeVector3d& by, QString* wh
   std::vector<std::pair<qsizetype, std::pair<qsizetype, QByteArray>>> edits;  // position, (length, text)
   for (const SatRecord& r : sat.records()) {
     for (const char* f : kFixed)
-      if (r.type == f) {
+      if (!transformed && r.type == f) {
         if (why) *why = tr("The body has free-form geometry, which cannot be moved here.");
         return false;
       }
     for (const Moved& m : kMoved) {
-      if (r.type != m.type) continue;
+      if (r.type != m.type || (transformed && r.type != "transform")) continue;
       for (int k = 0; k < 3; ++k) {
         const auto v = num(r, m.field + size_t(k));
         if (!v) {
@@ -424,6 +469,15 @@ bool OdDb3dSolid::setPosition(const OdGePoint3d& p, QString* why) {
   if (!OdDbAcis::translate(data, by, why)) return false;
   OdDbSolidHistory h = m_history;
   h.transform.preMultBy(OdGeMatrix3d::translation(by));
+  setAcisData(data);
+  m_history = h;
+  return true;
+}
+
+bool OdDb3dSolid::rebuild(const OdDbSolidHistory& h, QString* why) {
+  assertWriteEnabled();
+  OdDbAcisData data;
+  if (!OdDbAcis::buildPrimitive(h, acisData(), data, why)) return false;
   setAcisData(data);
   m_history = h;
   return true;

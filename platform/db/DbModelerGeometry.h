@@ -19,6 +19,8 @@ struct DB_API OdDbAcisData {
   bool operator==(const OdDbAcisData& o) const { return sat == o.sat && sab == o.sab; }
 };
 
+struct DB_API OdDbSolidHistory;
+
 // Reading SAT text. Every function answers false with a sentence in *why
 // when the text cannot be interpreted (corrupt, truncated, binary only, or
 // geometry of a kind it does not know), and leaves its outputs alone then.
@@ -33,9 +35,17 @@ DB_API bool extents(const OdDbAcisData& data, OdGeExtents3d& ext, QString* why);
 // Area and perimeter of a region: for each face the outer loop minus its
 // holes, edges being lines and circular or elliptical arcs.
 DB_API bool regionMeasures(const OdDbAcisData& data, double& area, double& perimeter, QString* why);
-// Moves every position of the data by `by` (points, curve and surface
-// roots, transforms).
+// Moves every position of the data by `by`: the body's transform when it
+// has one, else the points, curve and surface roots. SAT text only.
 DB_API bool translate(OdDbAcisData& data, const OdGeVector3d& by, QString* why);
+// Builds the body of a primitive history (box, wedge, pyramid, sphere,
+// torus) in the form and version of `like` (SAT or SAB, same header),
+// placed by the history's transform. False with a sentence when the
+// parameters make no solid or the kind cannot be built; out is left alone.
+DB_API bool buildPrimitive(const OdDbSolidHistory& h, const OdDbAcisData& like, OdDbAcisData& out, QString* why);
+// SAB bytes as SAT-like text for reading (record and field order as SAT;
+// two-valued words read "forward"/"reversed"); empty with why on damage.
+DB_API QByteArray sabToText(QByteArrayView sab, QString* why);
 }  // namespace OdDbAcis
 
 // The shared C++ base of the classes below (no class of its own in the
@@ -83,6 +93,9 @@ class DB_API OdDb3dSolid : public OdDbModelerEntity {
   // Moves body and history so that the placement point is p. Refused
   // (false, why) when the body cannot be moved; nothing changes then.
   bool setPosition(const OdGePoint3d& p, QString* why);
+  // Takes the history's new parameters and builds the body anew from
+  // them. Refused (false, why) when no valid body results; nothing changes then.
+  bool rebuild(const OdDbSolidHistory& h, QString* why);
   void copyFrom(const OdRxObject* source) override;
 
  private:

@@ -5,6 +5,7 @@
 #include "DbModelerGeometry.h"
 #include "DxfMapping.h"
 #include <algorithm>
+#include <cmath>
 
 namespace OdDxf::mapping {
 
@@ -36,6 +37,31 @@ QByteArray sabOf(Context& ctx, quint64 handle) {
     return out;
   }
   return {};
+}
+
+// Replaces the SAB bytes the data-storage section keeps for the entity of
+// `handle`: its size (94) and its chunks (310) of 127 bytes, as stored.
+void writeSab(Context& ctx, quint64 handle, const QByteArray& sab) {
+  if (!ctx.file || handle == 0) return;
+  Section* s = ctx.file->section("ACDSDATA");
+  if (!s) return;
+  for (Record& r : s->records) {
+    const int owner = r.find(320);
+    if (owner < 0 || r.at(owner).handle() != handle) continue;
+    const int size = r.find(94, owner);
+    if (size >= 0) r.setInteger(size, sab.size());
+    int first = r.find(310, owner);
+    if (first < 0) return;
+    int count = 0;
+    while (first + count < r.size() && r.at(first + count).code() == 310) ++count;
+    r.remove(first, count);
+    for (qsizetype at = 0; at < sab.size(); at += 127) {
+      r.insert(first, 310);
+      r.setBytes(first, QByteArrayView(sab).sliced(at, qMin<qsizetype>(127, sab.size() - at)));
+      ++first;
+    }
+    return;
+  }
 }
 
 // Reads the SAT lines: group 1 starts a line, group 3 continues it.
@@ -89,9 +115,9 @@ void acisFields(RecordIO& io, OdDbModelerEntity* obj, const OdDbModelerEntity* b
     obj->setAcisData(data);
     return;
   }
-  // Only SAT text is written back; binary data stays as the file has it.
-  if (io.mode() == RecordIO::Patch && !(obj->acisData() == before->acisData()) && !obj->acisData().sat.isEmpty())
-    writeSat(io, obj->acisData().sat);
+  if (io.mode() != RecordIO::Patch || obj->acisData() == before->acisData()) return;
+  if (!obj->acisData().sat.isEmpty()) writeSat(io, obj->acisData().sat);
+  else if (!obj->acisData().sab.isEmpty()) writeSab(io.ctx(), io.record().handle(), obj->acisData().sab);
 }
 
 // The transform of a history node: codes 40..55 row by row; the DXF form
@@ -170,6 +196,27 @@ void patchHistory(Context& ctx, const OdDbSolidHistory& h) {
     if (node->at(i).real(&ok) != v || !ok) node->setReal(i, v);
     if (c == 55) break;
   }
+  // The primitive's parameters, each group code in the order the record holds them.
+  const int p = markerIndex(*node, "AcDbShPrimitive");
+  if (p < 0) return;
+  std::vector<bool> used(h.values.size(), false);
+  for (int k = p + 1; k < node->size(); ++k) {
+    const int c = node->at(k).code();
+    if (c == 100 || c == 310 || c >= 1000) continue;
+    for (size_t i = 0; i < h.values.size(); ++i) {
+      if (used[i] || h.values[i].first != c) continue;
+      used[i] = true;
+      const ValueType type = node->at(k).type();
+      bool ok = false;
+      if (type == ValueType::Double) {
+        if (node->at(k).real(&ok) != h.values[i].second || !ok) node->setReal(k, h.values[i].second);
+      } else if (type == ValueType::Int16 || type == ValueType::Int32 || type == ValueType::Bool) {
+        const qint64 v = qint64(std::llround(h.values[i].second));
+        if (node->at(k).integer(&ok) != v || !ok) node->setInteger(k, v);
+      }
+      break;
+    }
+  }
 }
 
 }  // namespace
@@ -185,7 +232,9 @@ void solidFields(Fields<OdDb3dSolid>& f) {
     return;
   }
   const OdDbSolidHistory& now = f.object()->history();
-  if (io.mode() == RecordIO::Patch && now.node && !sameTransform(now.transform, f.before()->history().transform))
+  const OdDbSolidHistory& was = f.before()->history();
+  if (io.mode() == RecordIO::Patch && now.node &&
+      (!sameTransform(now.transform, was.transform) || now.values != was.values))
     patchHistory(io.ctx(), now);
 }
 
