@@ -6,6 +6,8 @@
 #include "MinusProperties.h"
 #include "ZqEntityExPE.h"
 #include "ZqLifecycle.h"
+#include "Attribute.h"
+#include "AttributeDefinition.h"
 #include "Circle.h"
 #include "Line.h"
 #include "MText.h"
