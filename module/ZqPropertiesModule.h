@@ -6,6 +6,7 @@
 #include "MinusProperties.h"
 #include "ZqEntityExPE.h"
 #include "ZqLifecycle.h"
+#include "ArcAlignedText.h"
 #include "Attribute.h"
 #include "AttributeDefinition.h"
 #include "Circle.h"

@@ -238,6 +238,15 @@ DE.setdefault("errors", {}).update({
     "Locking the position of an attribute needs a drawing saved as %1 or later; this drawing is %2.":
         "Das Sperren der Position eines Attributs braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2."})
 
+# Arc-aligned text: rows.
+DE.setdefault("entity_types", {}).update({"ArcAlignedText": "Bogentext"})
+DE.setdefault("property_groups", {}).update({"Position": "Position"})
+DE.setdefault("property_types", {}).update({
+    "Width Factor": "Breitenfaktor", "Char Spacing": "Zeichenabstand", "Center X": "Zentrum X", "Center Y": "Zentrum Y",
+    "Center Z": "Zentrum Z", "Normal X": "Normale X", "Normal Y": "Normale Y", "Normal Z": "Normale Z",
+    "Radius": "Radius", "Start Angle": "Startwinkel", "End Angle": "Endwinkel", "Arc Offset": "Bogenabstand",
+    "Left Offset": "Abstand links", "Right Offset": "Abstand rechts"})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []

@@ -359,6 +359,8 @@ constexpr ClassMapping kEntities[] = {
     {"ATTDEF",     &OdDbAttributeDefinition::desc, 0, &fieldsOf<OdDbAttributeDefinition, attdefFields>, false},
     {"ATTRIB",     &OdDbAttribute::desc,   0,    &fieldsOf<OdDbAttribute, attribFields>,            false},
     {"MTEXT",      &OdDbMText::desc,       1012, &fieldsOf<OdDbMText, mtextFields>,                 false},
+    // Arc-aligned text: its font names and the arc it follows are not mapped.
+    {"ARCALIGNEDTEXT", &OdDbArcAlignedText::desc, 1012, &fieldsOf<OdDbArcAlignedText, arcAlignedTextFields>, false, true},
     // Dimensions: only the style is mapped yet.
     {"DIMENSION",  &OdDbRotatedDimension::desc,       0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
     {"DIMENSION",  &OdDbAlignedDimension::desc,       0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},

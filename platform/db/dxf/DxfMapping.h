@@ -42,6 +42,7 @@ class OdDbText;
 class OdDbAttribute;
 class OdDbAttributeDefinition;
 class OdDbMText;
+class OdDbArcAlignedText;
 class OdDbDimension;
 
 namespace OdDxf::mapping {
@@ -394,6 +395,7 @@ void textFields(Fields<OdDbText>& f);
 void attdefFields(Fields<OdDbAttributeDefinition>& f);
 void attribFields(Fields<OdDbAttribute>& f);
 void mtextFields(Fields<OdDbMText>& f);
+void arcAlignedTextFields(Fields<OdDbArcAlignedText>& f);
 // What every dimension kind has: its style (DxfText.cpp).
 void dimensionFields(Fields<OdDbDimension>& f);
 // DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).

@@ -76,6 +76,25 @@ constexpr Field<M> kMTextFillRows[] = {
     {45,  Kind::Real,     member<M, &M::getBackgroundScaleFactor, &M::setBackgroundScaleFactor>(), 1.5, Opt::Optional},
 };
 
+// ARCALIGNEDTEXT; its angles are radians in the file as in memory.
+using R = OdDbArcAlignedText;
+constexpr Field<R> kArcAlignedTextRows[] = {
+    {1,   Kind::String,   member<R, &R::textString, &R::setTextString>()},
+    {7,   Kind::Name,     member<R, &R::textStyle, &R::setTextStyle>(),                   0,   Opt::Optional, &Context::styles, "Standard"},
+    {10,  Kind::Point,    member<R, &R::center, &R::setCenter>()},
+    {40,  Kind::Real,     member<R, &R::radius, &R::setRadius>(),                         1},
+    {41,  Kind::Real,     member<R, &R::xScale, &R::setXScale>(),                         1},
+    {42,  Kind::Real,     member<R, &R::textSize, &R::setTextSize>(),                     0.2},
+    {43,  Kind::Real,     member<R, &R::charSpacing, &R::setCharSpacing>(),               0},
+    {44,  Kind::Real,     member<R, &R::offsetFromArc, &R::setOffsetFromArc>(),           0},
+    {45,  Kind::Real,     member<R, &R::rightOffset, &R::setRightOffset>(),               0},
+    {46,  Kind::Real,     member<R, &R::leftOffset, &R::setLeftOffset>(),                 0},
+    {50,  Kind::Real,     member<R, &R::startAngle, &R::setStartAngle>(),                 0},
+    {51,  Kind::Real,     member<R, &R::endAngle, &R::setEndAngle>(),                     0},
+    {72,  Kind::Int,      member<R, &R::alignment, &R::setAlignment>(),                   1,   Opt::Optional},
+    {210, Kind::Normal,   member<R, &R::normal, &R::setNormal>()},
+};
+
 using N = OdDbDimension;
 constexpr Field<N> kDimensionRows[] = {
     {3,   Kind::Name,     member<N, &N::dimensionStyle, &N::setDimensionStyle>(),         0,   Opt::Optional, &Context::dimstyles, "Standard"},
@@ -325,6 +344,11 @@ void attribFields(Fields<OdDbAttribute>& f) {
   f.subclass("AcDbAttribute");
   mapFields(f, kAttribRows);
   attributeExtrasField(f, &A::isMTextAttribute);
+}
+
+void arcAlignedTextFields(Fields<OdDbArcAlignedText>& f) {
+  f.subclass("AcDbArcAlignedText");
+  mapFields(f, kArcAlignedTextRows);
 }
 
 void dimensionFields(Fields<OdDbDimension>& f) {
