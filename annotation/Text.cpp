@@ -344,19 +344,23 @@ int ZqMatchTextProperties(const OdDbEntity* source, OdDbObject* target) {
   return kZqSetApplied;
 }
 
+void ZqPrintTextLines(const OdDbText* text, CZqPrintInfoContext* context) {
+  const OdDbTextStyleTableRecordPtr style = styleOf(text);
+  context->PrintString(QCoreApplication::translate("info_items", "TextStyle"), style ? style->getName() : OdString());
+  // The platform's styles name a font file only; a font file carries no
+  // separate typeface name.
+  context->PrintString(QCoreApplication::translate("info_items", "Typeface"), OdString());
+  context->PrintString(QCoreApplication::translate("info_items", "Font file"), style ? style->fileName() : OdString());
+  context->PrintPoint(QCoreApplication::translate("info_items", "Start point"), text->position());
+  context->PrintDist(QCoreApplication::translate("info_items", "height"), text->height());
+  context->PrintString(QCoreApplication::translate("info_items", "text"), text->textString());
+  context->PrintAngle(QCoreApplication::translate("info_items", "rotation angle"), text->rotation());
+  context->PrintScale(QCoreApplication::translate("info_items", "width scale"), text->widthFactor());
+  context->PrintAngle(QCoreApplication::translate("info_items", "obliquing angle"), text->oblique());
+}
+
+std::span<const ZqRow> ZqTextRows() { return kRows; }
+
 void CZqTextInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) {
-  ZqPrintInfoFrame<OdDbText>(this, object, context, [&](const OdDbText* text) {
-    const OdDbTextStyleTableRecordPtr style = styleOf(text);
-    context->PrintString(QCoreApplication::translate("info_items", "TextStyle"), style ? style->getName() : OdString());
-    // The platform's styles name a font file only; a font file carries no
-    // separate typeface name.
-    context->PrintString(QCoreApplication::translate("info_items", "Typeface"), OdString());
-    context->PrintString(QCoreApplication::translate("info_items", "Font file"), style ? style->fileName() : OdString());
-    context->PrintPoint(QCoreApplication::translate("info_items", "Start point"), text->position());
-    context->PrintDist(QCoreApplication::translate("info_items", "height"), text->height());
-    context->PrintString(QCoreApplication::translate("info_items", "text"), text->textString());
-    context->PrintAngle(QCoreApplication::translate("info_items", "rotation angle"), text->rotation());
-    context->PrintScale(QCoreApplication::translate("info_items", "width scale"), text->widthFactor());
-    context->PrintAngle(QCoreApplication::translate("info_items", "obliquing angle"), text->oblique());
-  });
+  ZqPrintInfoFrame<OdDbText>(this, object, context, [&](const OdDbText* text) { ZqPrintTextLines(text, context); });
 }

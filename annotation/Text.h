@@ -24,3 +24,11 @@ class OdDbObject;
 // width factor; from a multiline source to a multiline target also the
 // background mask and the attachment. Returns the setter result code.
 int ZqMatchTextProperties(const OdDbEntity* source, OdDbObject* target);
+
+class OdDbText;
+class CZqPrintInfoContext;
+// The information lines of a single-line text (after the general lines),
+// which attributes and their definitions print too.
+void ZqPrintTextLines(const OdDbText* text, CZqPrintInfoContext* context);
+// The rows of single-line text, which attribute definitions show too.
+std::span<const ZqRow> ZqTextRows();

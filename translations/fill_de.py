@@ -417,6 +417,34 @@ DE.setdefault("info_values", {}).update({
     "cannot be measured: its defining points are degenerate": "nicht messbar: die Definitionspunkte sind entartet",
 })
 
+# Attributes and attribute definitions: rows, information lines and refusals.
+DE.setdefault("entity_types", {}).update({"Attribute Definition": "Attributdefinition", "Attribute": "Attribut"})
+DE.setdefault("property_groups", {}).update({"Attribute": "Attribut"})
+DE.setdefault("property_types", {}).update({
+    "Tag": "Bezeichnung", "Prompt": "Eingabeaufforderung", "Value": "Wert", "Invisible": "Unsichtbar",
+    "Constant": "Konstant", "Verify": "Prüfen", "Preset": "Vorgabe", "Lock position": "Position sperren",
+    "Multiline": "Mehrzeilig"})
+DE.setdefault("info_items", {}).update({
+    "Tag": "Bezeichnung", "Prompt": "Eingabeaufforderung", "Invisible": "Unsichtbar", "Constant": "Konstant",
+    "Verify": "Prüfen", "Preset": "Vorgabe", "Lock position": "Position sperren"})
+DE.setdefault("errors", {}).update({
+    "An attribute tag must be one word without blanks": "Eine Attributbezeichnung muss ein Wort ohne Leerzeichen sein",
+    "An attribute value is one line: it cannot contain line breaks or control characters":
+        "Ein Attributwert ist einzeilig: er darf keine Zeilenumbrüche oder Steuerzeichen enthalten",
+    "A prompt is one line: it cannot contain line breaks or control characters":
+        "Eine Eingabeaufforderung ist einzeilig: sie darf keine Zeilenumbrüche oder Steuerzeichen enthalten",
+    "Locking the position of an attribute needs a drawing saved as %1 or later; this drawing is %2.":
+        "Das Sperren der Position eines Attributs braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2."})
+
+# Arc-aligned text: rows.
+DE.setdefault("entity_types", {}).update({"ArcAlignedText": "Bogentext"})
+DE.setdefault("property_groups", {}).update({"Position": "Position"})
+DE.setdefault("property_types", {}).update({
+    "Width Factor": "Breitenfaktor", "Char Spacing": "Zeichenabstand", "Center X": "Zentrum X", "Center Y": "Zentrum Y",
+    "Center Z": "Zentrum Z", "Normal X": "Normale X", "Normal Y": "Normale Y", "Normal Z": "Normale Z",
+    "Radius": "Radius", "Start Angle": "Startwinkel", "End Angle": "Endwinkel", "Arc Offset": "Bogenabstand",
+    "Left Offset": "Abstand links", "Right Offset": "Abstand rechts"})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []

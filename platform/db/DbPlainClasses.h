@@ -16,6 +16,7 @@
 #include "DbXline.h"
 #include "DbText.h"
 #include "DbMText.h"
+#include "DbArcAlignedText.h"
 #include "DbSymbolTable.h"
 #include "DbDimStyle.h"
 #include "DbDimension.h"

@@ -110,6 +110,8 @@ void OdDbAttributeDefinition::copyFrom(const OdRxObject* source) {
   m_prompt = a->m_prompt;
   m_flags = a->m_flags;
   m_fieldLength = a->m_fieldLength;
+  m_lockPosition = a->m_lockPosition;
+  m_multiline = a->m_multiline;
 }
 
 void OdDbAttribute::setTag(const OdString& tag) { requireTag(tag); assertWriteEnabled(); m_tag = tag; }
@@ -121,4 +123,6 @@ void OdDbAttribute::copyFrom(const OdRxObject* source) {
   m_tag = a->m_tag;
   m_flags = a->m_flags;
   m_fieldLength = a->m_fieldLength;
+  m_lockPosition = a->m_lockPosition;
+  m_multiline = a->m_multiline;
 }

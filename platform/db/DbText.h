@@ -96,12 +96,22 @@ class DB_API OdDbAttributeDefinition : public OdDbText {
   void setPreset(bool on) { setFlags(on ? flags() | 8 : flags() & ~8); }
   int fieldLength() const { assertReadEnabled(); return m_fieldLength; }
   void setFieldLength(int n) { assertWriteEnabled(); m_fieldLength = n; }
+  // Whether the attribute keeps its place in a block reference when the
+  // reference's grips are moved (R2010 and later files).
+  bool lockPositionInBlock() const { assertReadEnabled(); return m_lockPosition; }
+  void setLockPositionInBlock(bool on) { assertWriteEnabled(); m_lockPosition = on; }
+  // Whether the file holds the attribute as multiline text (R2018 and later
+  // files). The platform keeps the multiline text as read and does not
+  // convert between the two kinds; setMultilineFlag is for the reader.
+  bool isMTextAttributeDefinition() const { assertReadEnabled(); return m_multiline; }
+  void setMultilineFlag(bool on) { assertWriteEnabled(); m_multiline = on; }
 
   void copyFrom(const OdRxObject* source) override;
 
  private:
   OdString m_tag, m_prompt;
   int m_flags = 0, m_fieldLength = 0;
+  bool m_lockPosition = false, m_multiline = false;
 };
 using OdDbAttributeDefinitionPtr = OdSmartPtr<OdDbAttributeDefinition>;
 
@@ -124,11 +134,21 @@ class DB_API OdDbAttribute : public OdDbText {
   bool isPreset() const { return flags() & 8; }
   int fieldLength() const { assertReadEnabled(); return m_fieldLength; }
   void setFieldLength(int n) { assertWriteEnabled(); m_fieldLength = n; }
+  // Whether the attribute keeps its place in a block reference when the
+  // reference's grips are moved (R2010 and later files).
+  bool lockPositionInBlock() const { assertReadEnabled(); return m_lockPosition; }
+  void setLockPositionInBlock(bool on) { assertWriteEnabled(); m_lockPosition = on; }
+  // Whether the file holds the attribute as multiline text (R2018 and later
+  // files). The platform keeps the multiline text as read and does not
+  // convert between the two kinds; setMultilineFlag is for the reader.
+  bool isMTextAttribute() const { assertReadEnabled(); return m_multiline; }
+  void setMultilineFlag(bool on) { assertWriteEnabled(); m_multiline = on; }
 
   void copyFrom(const OdRxObject* source) override;
 
  private:
   OdString m_tag;
   int m_flags = 0, m_fieldLength = 0;
+  bool m_lockPosition = false, m_multiline = false;
 };
 using OdDbAttributePtr = OdSmartPtr<OdDbAttribute>;

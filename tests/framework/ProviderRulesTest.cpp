@@ -21,7 +21,8 @@ TEST_F(ProviderRulesTest, ClassesWithoutARowFallBackToTheirNearestAttachedParent
   const Case cases[] = {
       {OdDbWipeout::desc(), "CZqEntityPE", "CZqPrintObjectInfoPE"},
       {OdDbRasterImage::desc(), "CZqEntityPE", "CZqPrintObjectInfoPE"},
-      {OdDbArcAlignedText::desc(), "CZqEntityPE", "CZqPrintObjectInfoPE"},
+      // Its own provider, but no information provider: the generic one prints.
+      {OdDbArcAlignedText::desc(), "CZqArcAlignedTextPE", "CZqPrintObjectInfoPE"},
       {OdDbLine::desc(), "CZqLinePE", ""},
   };
   for (const Case& c : cases) {

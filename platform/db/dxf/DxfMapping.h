@@ -46,6 +46,7 @@ class OdDbText;
 class OdDbAttribute;
 class OdDbAttributeDefinition;
 class OdDbMText;
+class OdDbArcAlignedText;
 class OdDbDimension;
 class OdDb3dSolid;
 class OdDbBody;
@@ -411,8 +412,7 @@ void textFields(Fields<OdDbText>& f);
 void attdefFields(Fields<OdDbAttributeDefinition>& f);
 void attribFields(Fields<OdDbAttribute>& f);
 void mtextFields(Fields<OdDbMText>& f);
-// What every dimension kind has: its style (DxfText.cpp).
-void dimensionFields(Fields<OdDbDimension>& f);
+void arcAlignedTextFields(Fields<OdDbArcAlignedText>& f);
 // Solids, bodies, regions and surfaces: modeller data, history, surface
 // parameters (DxfSolids.cpp).
 void solidFields(Fields<OdDb3dSolid>& f);

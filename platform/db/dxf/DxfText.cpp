@@ -76,10 +76,25 @@ constexpr Field<M> kMTextFillRows[] = {
     {45,  Kind::Real,     member<M, &M::getBackgroundScaleFactor, &M::setBackgroundScaleFactor>(), 1.5, Opt::Optional},
 };
 
-using N = OdDbDimension;
-constexpr Field<N> kDimensionRows[] = {
-    {3,   Kind::Name,     member<N, &N::dimensionStyle, &N::setDimensionStyle>(),         0,   Opt::Optional, &Context::dimstyles, "Standard"},
+// ARCALIGNEDTEXT; its angles are radians in the file as in memory.
+using R = OdDbArcAlignedText;
+constexpr Field<R> kArcAlignedTextRows[] = {
+    {1,   Kind::String,   member<R, &R::textString, &R::setTextString>()},
+    {7,   Kind::Name,     member<R, &R::textStyle, &R::setTextStyle>(),                   0,   Opt::Optional, &Context::styles, "Standard"},
+    {10,  Kind::Point,    member<R, &R::center, &R::setCenter>()},
+    {40,  Kind::Real,     member<R, &R::radius, &R::setRadius>(),                         1},
+    {41,  Kind::Real,     member<R, &R::xScale, &R::setXScale>(),                         1},
+    {42,  Kind::Real,     member<R, &R::textSize, &R::setTextSize>(),                     0.2},
+    {43,  Kind::Real,     member<R, &R::charSpacing, &R::setCharSpacing>(),               0},
+    {44,  Kind::Real,     member<R, &R::offsetFromArc, &R::setOffsetFromArc>(),           0},
+    {45,  Kind::Real,     member<R, &R::rightOffset, &R::setRightOffset>(),               0},
+    {46,  Kind::Real,     member<R, &R::leftOffset, &R::setLeftOffset>(),                 0},
+    {50,  Kind::Real,     member<R, &R::startAngle, &R::setStartAngle>(),                 0},
+    {51,  Kind::Real,     member<R, &R::endAngle, &R::setEndAngle>(),                     0},
+    {72,  Kind::Int,      member<R, &R::alignment, &R::setAlignment>(),                   1,   Opt::Optional},
+    {210, Kind::Normal,   member<R, &R::normal, &R::setNormal>()},
 };
+
 // clang-format on
 
 // The pieces of MTEXT contents: 250 characters each.
@@ -262,6 +277,44 @@ void columnsField(Fields<M>& f) {
   }
 }
 
+// What follows the flags of an attribute or its definition: the lock
+// position (group 280 after the tag; an R2010 record's first 280, before
+// the tag, is its version) and the kind of text (71: 2 or 4 for multiline
+// text, whose embedded object stays as read).
+template <class A>
+void attributeExtrasField(Fields<A>& f, bool (A::*multiline)() const) {
+  RecordIO& io = f.io();
+  Record& r = io.record();
+  A* a = f.object();
+  const int tagAt = io.find(2);
+  const int lockAt = tagAt >= 0 ? io.find(280, tagAt + 1) : -1;
+  if (io.reading()) {
+    if (lockAt >= 0) {
+      const bool lock = io.integerAt(lockAt) != 0;
+      f.apply(280, [&] { a->setLockPositionInBlock(lock); });
+    }
+    if (const int kindAt = io.find(71); kindAt >= 0) {
+      const qint64 kind = io.integerAt(kindAt);
+      f.apply(71, [&] { a->setMultilineFlag(kind == 2 || kind == 4); });
+    }
+    return;
+  }
+  if ((a->*multiline)() != (f.before()->*multiline)())
+    throw MapError{io.where(0) + QStringLiteral(": an attribute cannot be turned into multiline text or back")};
+  const bool lock = a->lockPositionInBlock();
+  if (lock == f.before()->lockPositionInBlock()) return;
+  if (lockAt >= 0) {
+    r.setInteger(lockAt, lock ? 1 : 0);
+    return;
+  }
+  if (!io.supports(1024))
+    throw MapError{io.where(0) + QStringLiteral(": the lock position of an attribute needs a drawing saved as R2010 or later")};
+  int after = -1;
+  for (const int code : {2, 70, 73, 74}) after = qMax(after, io.find(code));
+  io.moveTo(after + 1);
+  r.setInteger(io.insertTag(280), lock ? 1 : 0);
+}
+
 }  // namespace
 
 void textFields(Fields<OdDbText>& f) {
@@ -277,6 +330,7 @@ void attdefFields(Fields<OdDbAttributeDefinition>& f) {
   mapFields(text, kTextRows, kTextNormal);
   f.subclass("AcDbAttributeDefinition");
   mapFields(f, kAttdefRows);
+  attributeExtrasField(f, &D::isMTextAttributeDefinition);
 }
 
 void attribFields(Fields<OdDbAttribute>& f) {
@@ -285,11 +339,12 @@ void attribFields(Fields<OdDbAttribute>& f) {
   mapFields(text, kTextRows, kTextNormal);
   f.subclass("AcDbAttribute");
   mapFields(f, kAttribRows);
+  attributeExtrasField(f, &A::isMTextAttribute);
 }
 
-void dimensionFields(Fields<OdDbDimension>& f) {
-  f.subclass("AcDbDimension");
-  mapFields(f, kDimensionRows);
+void arcAlignedTextFields(Fields<OdDbArcAlignedText>& f) {
+  f.subclass("AcDbArcAlignedText");
+  mapFields(f, kArcAlignedTextRows);
 }
 
 void mtextFields(Fields<OdDbMText>& f) {

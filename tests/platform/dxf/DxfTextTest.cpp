@@ -244,6 +244,15 @@ TEST_F(DxfTextEdit, EachEditChangesOnlyItsOwnTags) {
       {"mtext contents", [&](OdDbDatabase*) { OdDbMTextPtr(OdDbMText::cast(mtext.openObject(OdDb::kForWrite)))->setContents(OdString(longText)); }, {1, 3}},
       {"mtext height", [&](OdDbDatabase*) { OdDbMTextPtr(OdDbMText::cast(mtext.openObject(OdDb::kForWrite)))->setTextHeight(7.0); }, {40}},
       {"mtext rotation", [&](OdDbDatabase*) { OdDbMTextPtr(OdDbMText::cast(mtext.openObject(OdDb::kForWrite)))->setRotation(OdaPI / 2); }, {11, 21, 31}},
+      {"mtext background", [&](OdDbDatabase*) {
+         OdDbMTextPtr m = OdDbMText::cast(mtext.openObject(OdDb::kForWrite));
+         m->setBackgroundFill(true);
+         m->setBackgroundFillColor(OdCmColor::fromIndex(3));
+       }, {90, 63}},
+      // The attribute's lock (its second 280; the first is its version).
+      {"attribute lock", [&](OdDbDatabase* d) {
+         OdDbAttributePtr(OdDbAttribute::cast(d->getOdDbObjectId(OdDbHandle(0x757)).openObject(OdDb::kForWrite)))->setLockPositionInBlock(false);
+       }, {280}},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);
@@ -298,6 +307,29 @@ print(json.dumps([t.dxf.height, t.dxf.rotation, m.text, m.dxf.char_height]))
   EXPECT_NEAR(got[1].toDouble(), 30.0, 1e-9);
   EXPECT_EQ(got[2].toString(), longText);
   EXPECT_DOUBLE_EQ(got[3].toDouble(), 7.0);
+}
+
+// Columns and the kind of an attribute's text are kept as read; a changed
+// one is refused when saving rather than lost.
+TEST_F(DxfTextEdit, ColumnsAndMultilineAttributesAreRefusedWhenChanged) {
+  OdDbObjectId columned;
+  for (quint64 h = 1; h < db->handseed().value() && columned.isNull(); ++h) {
+    const OdDbObjectId id = db->getOdDbObjectId(OdDbHandle(h));
+    OdDbMTextPtr m = id.isNull() ? OdDbMTextPtr() : OdDbMText::cast(id.openObject().get());
+    if (m && m->getColumnType() != OdDbMText::kNoColumns) columned = id;
+  }
+  ASSERT_FALSE(columned.isNull());
+  const double gutter = OdDbMText::cast(columned.openObject().get())->getColumnGutterWidth();
+  OdDbMTextPtr(OdDbMText::cast(columned.openObject(OdDb::kForWrite)))->setColumnGutterWidth(gutter + 1.0);
+  QString error;
+  EXPECT_TRUE(OdDxf::writeDrawing(db.get(), &error).isEmpty());
+  EXPECT_TRUE(error.contains("columns")) << error.toStdString();
+  OdDbMTextPtr(OdDbMText::cast(columned.openObject(OdDb::kForWrite)))->setColumnGutterWidth(gutter);
+  error.clear();
+  EXPECT_FALSE(OdDxf::writeDrawing(db.get(), &error).isEmpty()) << error.toStdString();
+  OdDbAttributePtr(OdDbAttribute::cast(db->getOdDbObjectId(OdDbHandle(0x757)).openObject(OdDb::kForWrite)))->setMultilineFlag(true);
+  EXPECT_TRUE(OdDxf::writeDrawing(db.get(), &error).isEmpty());
+  EXPECT_TRUE(error.contains("multiline")) << error.toStdString();
 }
 
 // A value an object refuses is refused by its setter and the object stays
