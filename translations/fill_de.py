@@ -482,6 +482,18 @@ DE.setdefault("OdDbAcis", {}).update({
     "The modeller data is binary and cannot be moved here.":
         "Die Modelliererdaten sind binär und können hier nicht verschoben werden."})
 DE.setdefault("errors", {}).update({"A pyramid has from 3 to 32 sides.": "Eine Pyramide hat 3 bis 32 Seiten."})
+# Solids: modeller data messages
+DE.setdefault("OdDb3dSolid", {}).update({
+    "The solid's position is not known, so it cannot be moved.": "Die Lage des Volumenkörpers ist nicht bekannt, daher kann er nicht verschoben werden.",
+})
+DE.setdefault("OdDbAcis", {}).update({
+    "The modeller data holds no geometry whose position is known.": "Die Modelliererdaten enthalten keine Geometrie mit bekannter Lage.",
+    "The modeller data is damaged or cut off.": "Die Modelliererdaten sind beschädigt oder abgeschnitten.",
+    "The region is not flat.": "Die Region ist nicht eben.",
+    "The region has an edge of a kind that cannot be measured here (%1).": "Die Region hat eine Kante einer Art, die hier nicht gemessen werden kann (%1).",
+    "The modeller data holds no face.": "Die Modelliererdaten enthalten keine Fläche.",
+    "The body has free-form geometry, which cannot be moved here.": "Der Körper hat Freiformgeometrie, die hier nicht verschoben werden kann.",
+})
 
 for context in tree.getroot().iter("context"):
     name = context.find("name").text

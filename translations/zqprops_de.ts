@@ -1,6 +1,20 @@
 <?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>CZq2dPolylinePE</name>
+    <message>
+        <source>%1 sq. in. (%2 sq. ft.)</source>
+        <translation>%1 sq. in. (%2 sq. ft.)</translation>
+    </message>
+</context>
+<context>
+    <name>CZqArcPE</name>
+    <message>
+        <source>%1 sq. in. (%2 sq. ft.)</source>
+        <translation>%1 sq. in. (%2 sq. ft.)</translation>
+    </message>
+</context>
+<context>
     <name>CZqCirclePE</name>
     <message>
         <source>%1 sq. in. (%2 sq. ft.)</source>
@@ -48,6 +62,29 @@
     </message>
 </context>
 <context>
+    <name>CZqDimensionPE</name>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation>Rund</translation>
+    </message>
+    <message>
+        <source>Angular</source>
+        <translation>Eckig</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+</context>
+<context>
     <name>CZqDlgCloudSettings</name>
     <message>
         <source>Rectangular</source>
@@ -67,10 +104,105 @@
     </message>
 </context>
 <context>
+    <name>CZqEllipsePE</name>
+    <message>
+        <source>%1 sq. in. (%2 sq. ft.)</source>
+        <translation>%1 sq. in. (%2 sq. ft.)</translation>
+    </message>
+</context>
+<context>
     <name>CZqPolylinePE</name>
     <message>
         <source>%1 sq. in. (%2 sq. ft.)</source>
         <translation>%1 sq. in. (%2 sq. ft.)</translation>
+    </message>
+</context>
+<context>
+    <name>CZqSelection</name>
+    <message>
+        <source>model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>The drawing has no object with handle %1.</source>
+        <translation>Die Zeichnung hat kein Objekt mit der Referenz %1.</translation>
+    </message>
+    <message>
+        <source>Space takes model, paper or all, not "%1".</source>
+        <translation>Space nimmt model, paper oder all, nicht "%1".</translation>
+    </message>
+</context>
+<context>
+    <name>CZqSplinePE_Prop</name>
+    <message>
+        <source>%1 sq. in. (%2 sq. ft.)</source>
+        <translation>%1 sq. in. (%2 sq. ft.)</translation>
+    </message>
+</context>
+<context>
+    <name>OdDb3dSolid</name>
+    <message>
+        <source>The solid's position is not known, so it cannot be moved.</source>
+        <translation>Die Lage des Volumenkörpers ist nicht bekannt, daher kann er nicht verschoben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>OdDbAcis</name>
+    <message>
+        <source>The modeller data holds no geometry whose position is known.</source>
+        <translation>Die Modelliererdaten enthalten keine Geometrie mit bekannter Lage.</translation>
+    </message>
+    <message>
+        <source>The modeller data is damaged or cut off.</source>
+        <translation>Die Modelliererdaten sind beschädigt oder abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>The region is not flat.</source>
+        <translation>Die Region ist nicht eben.</translation>
+    </message>
+    <message>
+        <source>The region has an edge of a kind that cannot be measured here (%1).</source>
+        <translation>Die Region hat eine Kante einer Art, die hier nicht gemessen werden kann (%1).</translation>
+    </message>
+    <message>
+        <source>The modeller data holds no face.</source>
+        <translation>Die Modelliererdaten enthalten keine Fläche.</translation>
+    </message>
+    <message>
+        <source>The modeller data is binary and cannot be moved here.</source>
+        <translation>Die Modelliererdaten sind binär und können hier nicht verschoben werden.</translation>
+    </message>
+    <message>
+        <source>The body has free-form geometry, which cannot be moved here.</source>
+        <translation>Der Körper hat Freiformgeometrie, die hier nicht verschoben werden kann.</translation>
+    </message>
+    <message>
+        <source>The body is stored in an old modeller format that cannot be written here.</source>
+        <translation>Der Körper ist in einem alten Modelliererformat gespeichert, das hier nicht geschrieben werden kann.</translation>
+    </message>
+    <message>
+        <source>The tube radius must be smaller than the torus radius.</source>
+        <translation>Der Rohrradius muss kleiner als der Torusradius sein.</translation>
+    </message>
+    <message>
+        <source>A cone's top radius must differ from its base radius.</source>
+        <translation>Der obere Radius eines Kegels muss sich von seinem Basisradius unterscheiden.</translation>
+    </message>
+    <message>
+        <source>The solid has no history to build its body from.</source>
+        <translation>Der Volumenkörper hat keinen Verlauf, aus dem sein Körper aufgebaut werden könnte.</translation>
+    </message>
+    <message>
+        <source>The solid was made from curves its history does not keep, so its body cannot be built again. Nothing was changed.</source>
+        <translation>Der Volumenkörper wurde aus Kurven erzeugt, die sein Verlauf nicht aufbewahrt; sein Körper kann daher nicht neu aufgebaut werden. Es wurde nichts geändert.</translation>
     </message>
 </context>
 <context>
@@ -135,6 +267,14 @@
         <source>Transparency</source>
         <translation>Die Transparenz</translation>
     </message>
+    <message>
+        <source>Cannot write %1: it is a folder, not a file.</source>
+        <translation>%1 kann nicht geschrieben werden: es ist ein Ordner, keine Datei.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: it is a device or another special file, not a regular file.</source>
+        <translation>%1 kann nicht geschrieben werden: es ist ein Gerät oder eine andere Spezialdatei, keine gewöhnliche Datei.</translation>
+    </message>
 </context>
 <context>
     <name>entity_types</name>
@@ -169,6 +309,94 @@
     <message>
         <source>Simplenote</source>
         <translation>Text</translation>
+    </message>
+    <message>
+        <source>Arc</source>
+        <translation>Bogen</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>3D Face</source>
+        <translation>3D-Fläche</translation>
+    </message>
+    <message>
+        <source>2D Polyline</source>
+        <translation>2D-Polylinie</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Solid</translation>
+    </message>
+    <message>
+        <source>Spline</source>
+        <translation>Spline</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Band</translation>
+    </message>
+    <message>
+        <source>Vertex</source>
+        <translation>Scheitelpunkt</translation>
+    </message>
+    <message>
+        <source>ArcAlignedText</source>
+        <translation>Bogentext</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
+        <source>Attribute Definition</source>
+        <translation>Attributdefinition</translation>
+    </message>
+    <message>
+        <source>Dimension</source>
+        <translation>Bemaßung</translation>
+    </message>
+    <message>
+        <source>AlignedDimension</source>
+        <translation>Ausgerichtete Bemaßung</translation>
+    </message>
+    <message>
+        <source>RotatedDimension</source>
+        <translation>Gedrehte Bemaßung</translation>
+    </message>
+    <message>
+        <source>2LineAngularDimension</source>
+        <translation>Winkelbemaßung (2 Linien)</translation>
+    </message>
+    <message>
+        <source>3PointAngularDimension</source>
+        <translation>Winkelbemaßung (3 Punkte)</translation>
+    </message>
+    <message>
+        <source>ArcLengthDimension</source>
+        <translation>Bogenlängenbemaßung</translation>
+    </message>
+    <message>
+        <source>RadialDimension</source>
+        <translation>Radiusbemaßung</translation>
+    </message>
+    <message>
+        <source>RadialDimensionLarge</source>
+        <translation>Verkürzte Radiusbemaßung</translation>
+    </message>
+    <message>
+        <source>DiametricDimension</source>
+        <translation>Durchmesserbemaßung</translation>
+    </message>
+    <message>
+        <source>OrdinateDimension</source>
+        <translation>Koordinatenbemaßung</translation>
+    </message>
+    <message>
+        <source>MText</source>
+        <translation>MText</translation>
     </message>
 </context>
 <context>
@@ -465,6 +693,78 @@
         <source>The drawing is %1 and cannot be saved as %2: only drawings of R2000 or later can be moved to a newer release.</source>
         <translation>Die Zeichnung ist %1 und kann nicht als %2 gespeichert werden: nur Zeichnungen ab R2000 können in ein neueres Format gebracht werden.</translation>
     </message>
+    <message>
+        <source>An attribute tag must be one word without blanks</source>
+        <translation>Eine Attributbezeichnung muss ein Wort ohne Leerzeichen sein</translation>
+    </message>
+    <message>
+        <source>An attribute value is one line: it cannot contain line breaks or control characters</source>
+        <translation>Ein Attributwert ist einzeilig: er darf keine Zeilenumbrüche oder Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>Locking the position of an attribute needs a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Das Sperren der Position eines Attributs braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.</translation>
+    </message>
+    <message>
+        <source>There is no vertex %1: the object has %2 vertices.</source>
+        <translation>Es gibt keinen Scheitelpunkt %1: das Objekt hat %2 Scheitelpunkte.</translation>
+    </message>
+    <message>
+        <source>Radius ratio must be greater than 0 and at most 1</source>
+        <translation>Das Radienverhältnis muss größer als 0 und höchstens 1 sein</translation>
+    </message>
+    <message>
+        <source>Minor radius must not be greater than the major radius</source>
+        <translation>Der Nebenradius darf nicht größer als der Hauptradius sein</translation>
+    </message>
+    <message>
+        <source>Degree must be a whole number from 1 to 10</source>
+        <translation>Der Grad muss eine ganze Zahl von 1 bis 10 sein</translation>
+    </message>
+    <message>
+        <source>The degree of a spline without fit points cannot be changed</source>
+        <translation>Der Grad eines Splines ohne Anpassungspunkte kann nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>The degree must be lower than the number of fit points</source>
+        <translation>Der Grad muss kleiner als die Anzahl der Anpassungspunkte sein</translation>
+    </message>
+    <message>
+        <source>A prompt is one line: it cannot contain line breaks or control characters</source>
+        <translation>Eine Eingabeaufforderung ist einzeilig: sie darf keine Zeilenumbrüche oder Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>%1 cannot take this value</source>
+        <translation>%1 kann diesen Wert nicht annehmen</translation>
+    </message>
+    <message>
+        <source>Decimal separator must be one character</source>
+        <translation>Das Dezimaltrennzeichen muss genau ein Zeichen sein</translation>
+    </message>
+    <message>
+        <source>A dimension text cannot hold control characters</source>
+        <translation>Ein Bemaßungstext kann keine Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>Choose one of the drawing's blocks as the custom arrow</source>
+        <translation>Wählen Sie einen Block der Zeichnung als Benutzerpfeil</translation>
+    </message>
+    <message>
+        <source>The drawing has no block for the arrowhead "%1"</source>
+        <translation>Die Zeichnung hat keinen Block für die Pfeilspitze "%1"</translation>
+    </message>
+    <message>
+        <source>There is no such arrowhead</source>
+        <translation>Diese Pfeilspitze gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Multiline text can hold line breaks and tabs but no other control characters</source>
+        <translation>Mehrzeiliger Text kann Zeilenumbrüche und Tabulatoren, aber keine anderen Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>A hyperlink needs a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Ein Hyperlink braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.</translation>
+    </message>
 </context>
 <context>
     <name>info_items</name>
@@ -616,6 +916,154 @@
         <source>obliquing angle</source>
         <translation>Neigungswinkel</translation>
     </message>
+    <message>
+        <source>Start angle</source>
+        <translation>Startwinkel</translation>
+    </message>
+    <message>
+        <source>End angle</source>
+        <translation>Endwinkel</translation>
+    </message>
+    <message>
+        <source>Total angle</source>
+        <translation>Gesamtwinkel</translation>
+    </message>
+    <message>
+        <source>Major axis</source>
+        <translation>Hauptachse</translation>
+    </message>
+    <message>
+        <source>Minor axis</source>
+        <translation>Nebenachse</translation>
+    </message>
+    <message>
+        <source>Radius ratio</source>
+        <translation>Radienverhältnis</translation>
+    </message>
+    <message>
+        <source>Edge %1</source>
+        <translation>Kante %1</translation>
+    </message>
+    <message>
+        <source>Thickness</source>
+        <translation>Objekthöhe</translation>
+    </message>
+    <message>
+        <source>Fit/Smooth</source>
+        <translation>Kurvenlinie/Glätten</translation>
+    </message>
+    <message>
+        <source>Degree</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>Closed</source>
+        <translation>Geschlossen</translation>
+    </message>
+    <message>
+        <source>Periodic</source>
+        <translation>Periodisch</translation>
+    </message>
+    <message>
+        <source>Rational</source>
+        <translation>Rational</translation>
+    </message>
+    <message>
+        <source>Number of control points</source>
+        <translation>Anzahl Kontrollpunkte</translation>
+    </message>
+    <message>
+        <source>Control Point %1</source>
+        <translation>Kontrollpunkt %1</translation>
+    </message>
+    <message>
+        <source>Number of fit points</source>
+        <translation>Anzahl Anpassungspunkte</translation>
+    </message>
+    <message>
+        <source>Fit Point %1</source>
+        <translation>Anpassungspunkt %1</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Invisible</source>
+        <translation>Unsichtbar</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Konstant</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Prüfen</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>Lock position</source>
+        <translation>Position sperren</translation>
+    </message>
+    <message>
+        <source>Prompt</source>
+        <translation>Eingabeaufforderung</translation>
+    </message>
+    <message>
+        <source>Dimension style overrides</source>
+        <translation>Bemaßungsstil-Überschreibungen</translation>
+    </message>
+    <message>
+        <source>related</source>
+        <translation>assoziiert</translation>
+    </message>
+    <message>
+        <source>associated with geometry</source>
+        <translation>mit Geometrie verknüpft</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>measurement</source>
+        <translation>Messwert</translation>
+    </message>
+    <message>
+        <source>default text position</source>
+        <translation>Standardtextposition</translation>
+    </message>
+    <message>
+        <source>default text</source>
+        <translation>Standardtext</translation>
+    </message>
+    <message>
+        <source>DimensionStyle</source>
+        <translation>Bemaßungsstil</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Einfügepunkt</translation>
+    </message>
+    <message>
+        <source>Attachment</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>line spacing factor</source>
+        <translation>Zeilenabstandsfaktor</translation>
+    </message>
 </context>
 <context>
     <name>info_values</name>
@@ -647,6 +1095,98 @@
         <source>Paper space</source>
         <translation>Papierbereich</translation>
     </message>
+    <message>
+        <source>Invisible</source>
+        <translation>Unsichtbar</translation>
+    </message>
+    <message>
+        <source>cannot be measured: its defining points are degenerate</source>
+        <translation>nicht messbar: die Definitionspunkte sind entartet</translation>
+    </message>
+    <message>
+        <source>aligned</source>
+        <translation>ausgerichtet</translation>
+    </message>
+    <message>
+        <source>rotated</source>
+        <translation>gedreht</translation>
+    </message>
+    <message>
+        <source>angular</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>diameter</source>
+        <translation>Durchmesser</translation>
+    </message>
+    <message>
+        <source>ordinate</source>
+        <translation>Koordinate</translation>
+    </message>
+    <message>
+        <source>jogged</source>
+        <translation>verkürzt</translation>
+    </message>
+    <message>
+        <source>radial</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top Center</source>
+        <translation>Oben zentriert</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Middle Left</source>
+        <translation>Mitte links</translation>
+    </message>
+    <message>
+        <source>Middle Center</source>
+        <translation>Mitte zentriert</translation>
+    </message>
+    <message>
+        <source>Middle Right</source>
+        <translation>Mitte rechts</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom Center</source>
+        <translation>Unten zentriert</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Left to right</source>
+        <translation>Links nach rechts</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>Top to bottom</source>
+        <translation>Oben nach unten</translation>
+    </message>
+    <message>
+        <source>Bottom to top</source>
+        <translation>Unten nach oben</translation>
+    </message>
+    <message>
+        <source>By style</source>
+        <translation>Nach Stil</translation>
+    </message>
 </context>
 <context>
     <name>property_groups</name>
@@ -669,6 +1209,38 @@
     <message>
         <source>Text</source>
         <translation>Text</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Lines &amp;&amp; Arrows</source>
+        <translation>Linien &amp;&amp; Pfeile</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Primary UnitSystem</source>
+        <translation>Primäreinheiten</translation>
+    </message>
+    <message>
+        <source>Alternate UnitSystem</source>
+        <translation>Alternativeinheiten</translation>
+    </message>
+    <message>
+        <source>Tolerance</source>
+        <translation>Toleranzen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
     </message>
 </context>
 <context>
@@ -933,6 +1505,234 @@
         <source>Backward</source>
         <translation>Rückwärts</translation>
     </message>
+    <message>
+        <source>Start angle</source>
+        <translation>Startwinkel</translation>
+    </message>
+    <message>
+        <source>End angle</source>
+        <translation>Endwinkel</translation>
+    </message>
+    <message>
+        <source>Total angle</source>
+        <translation>Gesamtwinkel</translation>
+    </message>
+    <message>
+        <source>Arc length</source>
+        <translation>Bogenlänge</translation>
+    </message>
+    <message>
+        <source>Major radius</source>
+        <translation>Hauptradius</translation>
+    </message>
+    <message>
+        <source>Minor radius</source>
+        <translation>Nebenradius</translation>
+    </message>
+    <message>
+        <source>Radius ratio</source>
+        <translation>Radienverhältnis</translation>
+    </message>
+    <message>
+        <source>Major axis X</source>
+        <translation>Hauptachse X</translation>
+    </message>
+    <message>
+        <source>Major axis Y</source>
+        <translation>Hauptachse Y</translation>
+    </message>
+    <message>
+        <source>Major axis Z</source>
+        <translation>Hauptachse Z</translation>
+    </message>
+    <message>
+        <source>Start parameter</source>
+        <translation>Startparameter</translation>
+    </message>
+    <message>
+        <source>End parameter</source>
+        <translation>Endparameter</translation>
+    </message>
+    <message>
+        <source>Vertex Z</source>
+        <translation>Scheitelpunkt Z</translation>
+    </message>
+    <message>
+        <source>Edge visible</source>
+        <translation>Kante sichtbar</translation>
+    </message>
+    <message>
+        <source>Fit/Smooth</source>
+        <translation>Kurvenlinie/Glätten</translation>
+    </message>
+    <message>
+        <source>Degree</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>Control point</source>
+        <translation>Kontrollpunkt</translation>
+    </message>
+    <message>
+        <source>Control point X</source>
+        <translation>Kontrollpunkt X</translation>
+    </message>
+    <message>
+        <source>Control point Y</source>
+        <translation>Kontrollpunkt Y</translation>
+    </message>
+    <message>
+        <source>Control point Z</source>
+        <translation>Kontrollpunkt Z</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Gewichtung</translation>
+    </message>
+    <message>
+        <source>Number of control points</source>
+        <translation>Anzahl Kontrollpunkte</translation>
+    </message>
+    <message>
+        <source>Number of fit points</source>
+        <translation>Anzahl Anpassungspunkte</translation>
+    </message>
+    <message>
+        <source>Fit tolerance</source>
+        <translation>Anpassungstoleranz</translation>
+    </message>
+    <message>
+        <source>Periodic</source>
+        <translation>Periodisch</translation>
+    </message>
+    <message>
+        <source>Rational</source>
+        <translation>Rational</translation>
+    </message>
+    <message>
+        <source>Bulge</source>
+        <translation>Wölbung</translation>
+    </message>
+    <message>
+        <source>Width Factor</source>
+        <translation>Breitenfaktor</translation>
+    </message>
+    <message>
+        <source>Char Spacing</source>
+        <translation>Zeichenabstand</translation>
+    </message>
+    <message>
+        <source>Start Angle</source>
+        <translation>Startwinkel</translation>
+    </message>
+    <message>
+        <source>End Angle</source>
+        <translation>Endwinkel</translation>
+    </message>
+    <message>
+        <source>Arc Offset</source>
+        <translation>Bogenabstand</translation>
+    </message>
+    <message>
+        <source>Left Offset</source>
+        <translation>Abstand links</translation>
+    </message>
+    <message>
+        <source>Right Offset</source>
+        <translation>Abstand rechts</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Invisible</source>
+        <translation>Unsichtbar</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Konstant</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Prüfen</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>Lock position</source>
+        <translation>Position sperren</translation>
+    </message>
+    <message>
+        <source>Multiline</source>
+        <translation>Mehrzeilig</translation>
+    </message>
+    <message>
+        <source>Prompt</source>
+        <translation>Eingabeaufforderung</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>Klartext</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Line space factor</source>
+        <translation>Zeilenabstandsfaktor</translation>
+    </message>
+    <message>
+        <source>Line space style</source>
+        <translation>Zeilenabstandsstil</translation>
+    </message>
+    <message>
+        <source>Background mask</source>
+        <translation>Hintergrundmaske</translation>
+    </message>
+    <message>
+        <source>Mask color</source>
+        <translation>Maskenfarbe</translation>
+    </message>
+    <message>
+        <source>Use drawing background</source>
+        <translation>Zeichnungshintergrund verwenden</translation>
+    </message>
+    <message>
+        <source>Border offset</source>
+        <translation>Randabstand</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Column count</source>
+        <translation>Spaltenanzahl</translation>
+    </message>
+    <message>
+        <source>Column width</source>
+        <translation>Spaltenbreite</translation>
+    </message>
+    <message>
+        <source>Column gutter</source>
+        <translation>Spaltenabstand</translation>
+    </message>
+    <message>
+        <source>Column height</source>
+        <translation>Spaltenhöhe</translation>
+    </message>
 </context>
 <context>
     <name>property_values</name>
@@ -1020,6 +1820,298 @@
         <source>Bottom Right</source>
         <translation>Unten rechts</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Curve fit</source>
+        <translation>Kurvenangleichung</translation>
+    </message>
+    <message>
+        <source>Quadratic</source>
+        <translation>Quadratisch</translation>
+    </message>
+    <message>
+        <source>Cubic</source>
+        <translation>Kubisch</translation>
+    </message>
+    <message>
+        <source>Keep dimline with text</source>
+        <translation>Maßlinie mit Text verschieben</translation>
+    </message>
+    <message>
+        <source>Move text, add leader</source>
+        <translation>Text verschieben, mit Führungslinie</translation>
+    </message>
+    <message>
+        <source>Move text, no leader</source>
+        <translation>Text verschieben, ohne Führungslinie</translation>
+    </message>
+    <message>
+        <source>Symmetrical</source>
+        <translation>Symmetrisch</translation>
+    </message>
+    <message>
+        <source>Deviation</source>
+        <translation>Abweichung</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Grenzen</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>Grundmaß</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Markierung</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Diagonal</source>
+        <translation>Diagonal</translation>
+    </message>
+    <message>
+        <source>Not stacked</source>
+        <translation>Nicht gestapelt</translation>
+    </message>
+    <message>
+        <source>Centered</source>
+        <translation>Zentriert</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>Darüber</translation>
+    </message>
+    <message>
+        <source>Outside</source>
+        <translation>Außen</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Darunter</translation>
+    </message>
+    <message>
+        <source>Text and arrows</source>
+        <translation>Text und Pfeile</translation>
+    </message>
+    <message>
+        <source>Arrows only</source>
+        <translation>Nur Pfeile</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Nur Text</translation>
+    </message>
+    <message>
+        <source>Best fit</source>
+        <translation>Beste Einpassung</translation>
+    </message>
+    <message>
+        <source>Scientific</source>
+        <translation>Wissenschaftlich</translation>
+    </message>
+    <message>
+        <source>Decimal</source>
+        <translation>Dezimal</translation>
+    </message>
+    <message>
+        <source>Engineering</source>
+        <translation>Ingenieur</translation>
+    </message>
+    <message>
+        <source>Architectural</source>
+        <translation>Architektonisch</translation>
+    </message>
+    <message>
+        <source>Fractional</source>
+        <translation>Bruch</translation>
+    </message>
+    <message>
+        <source>Windows Desktop</source>
+        <translation>Windows-Desktop</translation>
+    </message>
+    <message>
+        <source>First extension line</source>
+        <translation>Erste Hilfslinie</translation>
+    </message>
+    <message>
+        <source>Second extension line</source>
+        <translation>Zweite Hilfslinie</translation>
+    </message>
+    <message>
+        <source>Over first extension</source>
+        <translation>Über erster Hilfslinie</translation>
+    </message>
+    <message>
+        <source>Over second extension</source>
+        <translation>Über zweiter Hilfslinie</translation>
+    </message>
+    <message>
+        <source>Left-to-right</source>
+        <translation>Von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Right-to-left</source>
+        <translation>Von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Decimal degrees</source>
+        <translation>Dezimalgrad</translation>
+    </message>
+    <message>
+        <source>Deg/min/sec</source>
+        <translation>Grad/Min/Sek</translation>
+    </message>
+    <message>
+        <source>Gradians</source>
+        <translation>Neugrad</translation>
+    </message>
+    <message>
+        <source>Radians</source>
+        <translation>Bogenmaß</translation>
+    </message>
+    <message>
+        <source>Preceding Dimension Text</source>
+        <translation>Vor dem Bemaßungstext</translation>
+    </message>
+    <message>
+        <source>Above Dimension Text</source>
+        <translation>Über dem Bemaßungstext</translation>
+    </message>
+    <message>
+        <source>Closed filled</source>
+        <translation>Geschlossen gefüllt</translation>
+    </message>
+    <message>
+        <source>Closed blank</source>
+        <translation>Geschlossen leer</translation>
+    </message>
+    <message>
+        <source>Closed</source>
+        <translation>Geschlossen</translation>
+    </message>
+    <message>
+        <source>Dot</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Architectural tick</source>
+        <translation>Architektonischer Schrägstrich</translation>
+    </message>
+    <message>
+        <source>Oblique</source>
+        <translation>Schräg</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <source>Origin indicator</source>
+        <translation>Ursprungsanzeiger</translation>
+    </message>
+    <message>
+        <source>Origin indicator 2</source>
+        <translation>Ursprungsanzeiger 2</translation>
+    </message>
+    <message>
+        <source>Right angle</source>
+        <translation>Rechter Winkel</translation>
+    </message>
+    <message>
+        <source>Open 30</source>
+        <translation>Offen 30</translation>
+    </message>
+    <message>
+        <source>Dot small</source>
+        <translation>Kleiner Punkt</translation>
+    </message>
+    <message>
+        <source>Dot blank</source>
+        <translation>Punkt leer</translation>
+    </message>
+    <message>
+        <source>Dot small blank</source>
+        <translation>Kleiner Punkt leer</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Quader</translation>
+    </message>
+    <message>
+        <source>Box filled</source>
+        <translation>Kasten gefüllt</translation>
+    </message>
+    <message>
+        <source>Datum triangle</source>
+        <translation>Bezugsdreieck</translation>
+    </message>
+    <message>
+        <source>Datum triangle filled</source>
+        <translation>Bezugsdreieck gefüllt</translation>
+    </message>
+    <message>
+        <source>Integral</source>
+        <translation>Integral</translation>
+    </message>
+    <message>
+        <source>Custom arrow</source>
+        <translation>Benutzerpfeil</translation>
+    </message>
+    <message>
+        <source>Left to right</source>
+        <translation>Links nach rechts</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>Top to bottom</source>
+        <translation>Oben nach unten</translation>
+    </message>
+    <message>
+        <source>Bottom to top</source>
+        <translation>Unten nach oben</translation>
+    </message>
+    <message>
+        <source>By style</source>
+        <translation>Nach Stil</translation>
+    </message>
+    <message>
+        <source>At least</source>
+        <translation>Mindestens</translation>
+    </message>
+    <message>
+        <source>Exactly</source>
+        <translation>Genau</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>Statisch</translation>
+    </message>
+    <message>
+        <source>Dynamic</source>
+        <translation>Dynamisch</translation>
+    </message>
 </context>
 <context>
     <name>zqprops</name>
@@ -1042,10 +2134,6 @@
     <message>
         <source>warning: %1</source>
         <translation>Warnung: %1</translation>
-    </message>
-    <message>
-        <source>zqprops: no object with handle %1</source>
-        <translation>zqprops: kein Objekt mit der Referenz %1</translation>
     </message>
     <message>
         <source>zqprops: cannot read script %1: %2</source>
@@ -1114,6 +2202,62 @@
     <message>
         <source>zqprops: --vertex takes a vertex number from 1 on, not "%1".</source>
         <translation>zqprops: --vertex nimmt eine Scheitelpunktnummer ab 1, nicht "%1".</translation>
+    </message>
+    <message>
+        <source>zqprops: --space takes model, paper or all, not "%1".</source>
+        <translation>zqprops: --space nimmt model, paper oder all, nicht "%1".</translation>
+    </message>
+    <message>
+        <source>zqprops: nothing selected: no object of the drawing meets the selection.</source>
+        <translation>zqprops: nichts gewählt: kein Objekt der Zeichnung erfüllt die Auswahl.</translation>
+    </message>
+    <message>
+        <source>zqprops: no listed object has the row(s) %1.</source>
+        <translation>zqprops: kein gelistetes Objekt hat die Zeile(n) %1.</translation>
+    </message>
+    <message>
+        <source>zqprops: 1 unsaved edit; use -o or SAVE</source>
+        <translation>zqprops: 1 ungesicherte Änderung; -o oder SAVE verwenden</translation>
+    </message>
+    <message>
+        <source>zqprops: %1 unsaved edits; use -o or SAVE</source>
+        <translation>zqprops: %1 ungesicherte Änderungen; -o oder SAVE verwenden</translation>
+    </message>
+    <message>
+        <source>Enter the number of operations to undo &lt;1&gt;:</source>
+        <translation>Anzahl der zurückzunehmenden Vorgänge eingeben &lt;1&gt;:</translation>
+    </message>
+    <message>
+        <source>UNDO needs a whole number of operations from 1 on, not "%1".</source>
+        <translation>UNDO braucht eine ganze Zahl von Vorgängen ab 1, nicht "%1".</translation>
+    </message>
+    <message>
+        <source>Everything has been undone.</source>
+        <translation>Alles wurde zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Zurückgenommen: %1</translation>
+    </message>
+    <message>
+        <source>Nothing to redo.</source>
+        <translation>Nichts wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Wiederhergestellt: %1</translation>
+    </message>
+    <message>
+        <source>1 unsaved edit. Save the drawing? [Yes/No] &lt;Yes&gt;:</source>
+        <translation>1 ungesicherte Änderung. Zeichnung sichern? [Ja/Nein] &lt;Ja&gt;:</translation>
+    </message>
+    <message>
+        <source>%1 unsaved edits. Save the drawing? [Yes/No] &lt;Yes&gt;:</source>
+        <translation>%1 ungesicherte Änderungen. Zeichnung sichern? [Ja/Nein] &lt;Ja&gt;:</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
     </message>
 </context>
 </TS>
