@@ -62,6 +62,7 @@ int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArra
     return kUsage;
   }
   const QString name = assignment.left(eq).trimmed(), text = assignment.mid(eq + 1);
+  const ZqRowPicker wanted(QStringList{name});
   CZqPropertiesWindowService service(db);
   int status = kDone, found = 0;
   // One --set is one undo step, however many objects it edits.
@@ -73,7 +74,8 @@ int applySet(OdDbDatabase* db, const QString& assignment, const OdDbObjectIdArra
   for (const OdDbObjectId& id : targets) {
     service.SetSelection({id});
     service.SetCurrentIndex(items.value(id.getHandle().value()));
-    const std::vector<CZqPaletteRow> rows = service.Rows();
+    // Only the rows of that name are read; no other row is formatted.
+    const std::vector<CZqPaletteRow> rows = service.Rows(kZqVisPalette, wanted.filter());
     const CZqPaletteRow* row = service.FindRow(rows, name);
     if (!row) continue;
     ++found;

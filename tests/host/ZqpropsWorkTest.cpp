@@ -218,6 +218,21 @@ TEST(ZqpropsSession, UndoOfAMultiObjectEditSavesTheOriginalBytesAndRedoTheEdit) 
   EXPECT_EQ(readAll(redone), readAll(direct));
 }
 
+TEST(ZqpropsSession, PropertiesCommandTakesTheProgramsSelectionAsPrevious) {
+  QTemporaryDir dir;
+  const QString out = dir.filePath("out.dxf");
+  const QString script = writeFile(dir, "p.scr", "-PROPERTIES\nP\n\nColor\n1\nX\n-PROPERTIES\nType=CIRCLE Layer=Out*\n\nColor\n2\nX\n"
+                                                 "SAVE " + out.toUtf8() + "\n");
+  const ProgramRun r = zqprops({kDemo, "--layer", "Axis", "--script", script});
+  ASSERT_EQ(r.code, 0) << r.err.toStdString();
+  const QJsonArray objects = parse(zqprops({out, "--json", "--rows", "Color"}))["objects"].toArray();
+  ASSERT_FALSE(objects.isEmpty());
+  for (const QJsonValue& o : objects) {
+    const QString want = o["layer"] == "Axis" ? "red" : o["type"] == "CIRCLE" ? "yellow" : "ByLayer";
+    EXPECT_EQ(o["rows"]["General/Color"]["value"].toString(), want) << o["handle"].toString().toStdString();
+  }
+}
+
 TEST(ZqpropsSession, UnsavedEditsAndScriptErrorsGiveTheirExitStatus) {
   QTemporaryDir dir;
   struct Case {
