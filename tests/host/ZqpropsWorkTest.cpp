@@ -244,6 +244,8 @@ TEST(ZqpropsSession, UnsavedEditsAndScriptErrorsGiveTheirExitStatus) {
       {"-PROPERTIES\nALL\n\nColor\n2\nX\nQUIT\n", {}, 3, "zqprops: 1 unsaved edit; use -o or SAVE"},
       {"-PROPERTIES\nALL\n\nColor\n2\nLayer\nAxis\nX\n", {}, 3, "zqprops: 2 unsaved edits; use -o or SAVE"},
       {"-PROPERTIES\nALL\n\nColor\n2\nX\nU\n", {}, 0, ""},
+      // A refused edit changes nothing: no step to undo, nothing unsaved.
+      {"-PROPERTIES\nALL\n\nLinetype scale\n-1\nX\n", {}, 1, ""},
       {"; a comment\n\n   ; another\nLIST\nALL\n\nFROB\nLIST\n", {}, 2, "s.scr:7: Unknown command \"FROB\"."},
       {"FROB\n-PROPERTIES\nALL\n\nColor\n2\nX\nSAVE\n" + dir.filePath("k.dxf").toUtf8() + "\n", {"--keep-going"}, 2, "s.scr:1: Unknown command"},
       {"UNDO\nmany\n", {}, 2, "s.scr:2: UNDO needs a whole number"},
