@@ -2,6 +2,7 @@
 #include "ZqCallbacks.h"
 #include "ZqInfoFrame.h"
 #include "DbText.h"
+#include "DbMText.h"
 #include "DbSymbolTable.h"
 #include "OdGeMatrix3d.h"
 #include <cmath>
@@ -295,25 +296,51 @@ const ZqRow kRows[] = {
 
 ZQ_DEFINE_PROVIDER(CZqTextPE, QT_TRANSLATE_NOOP("entity_types", "Simplenote"), kRows)
 
+namespace {
+
+// The source's style as the target's drawing has it: the same record in one
+// drawing, the record of the same name in another (none when it lacks one).
+OdDbObjectId styleForTarget(const OdDbObjectId& style, const OdDbObject* target) {
+  if (style.isNull() || style.database() == target->database()) return style;
+  const OdDbObjectPtr record = style.isErased() ? OdDbObjectPtr() : style.openObject(OdDb::kForRead);
+  const OdDbTextStyleTableRecord* named = OdDbTextStyleTableRecord::cast(record.get()).get();
+  if (!named || !target->database()) return OdDbObjectId();
+  auto table = OdDbSymbolTable::cast(target->database()->getTextStyleTableId().openObject(OdDb::kForRead).get());
+  return table ? table->getAt(named->getName()) : OdDbObjectId();
+}
+
+}  // namespace
+
 int ZqMatchTextProperties(const OdDbEntity* source, OdDbObject* target) {
-  const T* from = odrxCast<T>(source);
-  T* to = odrxCast<T>(target);
-  if (!from || !to || !to->isWriteEnabled()) return kZqSetRefused;
-  OdDbObjectId style = from->textStyle();
-  if (!style.isNull() && style.database() != to->database()) {
-    // Another drawing: its style of the same name, if it has one.
-    const OdDbTextStyleTableRecordPtr record = styleOf(from);
-    style = OdDbObjectId();
-    if (record && to->database()) {
-      if (auto table = OdDbSymbolTable::cast(to->database()->getTextStyleTableId().openObject(OdDb::kForRead).get()))
-        style = table->getAt(record->getName());
+  const T* fromText = odrxCast<T>(source);
+  const OdDbMText* fromMText = odrxCast<OdDbMText>(source);
+  T* toText = odrxCast<T>(target);
+  OdDbMText* toMText = odrxCast<OdDbMText>(target);
+  if ((!fromText && !fromMText) || (!toText && !toMText) || !target->isWriteEnabled()) return kZqSetRefused;
+  const OdDbObjectId style = styleForTarget(fromText ? fromText->textStyle() : fromMText->textStyle(), target);
+  const double rotation = fromText ? fromText->rotation() : fromMText->rotation();
+  const double height = fromText ? fromText->height() : fromMText->textHeight();
+  if (toText) {
+    if (!style.isNull()) toText->setTextStyle(style);
+    toText->setRotation(rotation);
+    toText->setHeight(height);
+    // A multiline source has no obliquing angle or width factor to give.
+    if (fromText) {
+      toText->setOblique(fromText->oblique());
+      toText->setWidthFactor(fromText->widthFactor());
     }
+    return kZqSetApplied;
   }
-  if (!style.isNull()) to->setTextStyle(style);
-  to->setRotation(from->rotation());
-  to->setOblique(from->oblique());
-  to->setHeight(from->height());
-  to->setWidthFactor(from->widthFactor());
+  if (!style.isNull()) toMText->setTextStyle(style);
+  toMText->setRotation(rotation);
+  toMText->setTextHeight(height);
+  // The background mask and the attachment come only from a multiline source.
+  if (fromMText) {
+    toMText->setBackgroundFillColor(fromMText->getBackgroundFillColor());
+    toMText->setBackgroundFill(fromMText->backgroundFillOn());
+    toMText->setUseBackgroundColor(fromMText->useBackgroundColorOn());
+    toMText->setAttachment(fromMText->attachment());
+  }
   return kZqSetApplied;
 }
 

@@ -17,8 +17,10 @@ class CZqTextInfo : public CZqPrintObjectInfoPE {
 
 class OdDbEntity;
 class OdDbObject;
-// Copies the text properties of a single-line source text onto a
-// single-line target: style (brought into the target's drawing by name
-// when the two drawings differ), rotation, obliquing angle, height and
-// width factor. Returns the setter result code.
+// Copies the text properties of a single-line or multiline source onto a
+// single-line or multiline target: the style (brought into the target's
+// drawing by name when the two drawings differ), rotation and height; from
+// a single-line source to a single-line target also the obliquing angle and
+// width factor; from a multiline source to a multiline target also the
+// background mask and the attachment. Returns the setter result code.
 int ZqMatchTextProperties(const OdDbEntity* source, OdDbObject* target);

@@ -4,6 +4,7 @@
 #include "ZqEnumerations.h"
 #include "ZqInfoFrame.h"
 #include "ZqMatchPolyline.h"
+#include "ZqVertexRows.h"
 #include "ZQCommandsBase.h"
 #include "DbPlainClasses.h"
 
@@ -13,9 +14,7 @@ using P = OdDbPolyline;
 
 // The vertex a row's index names: an integer index is the zero-based vertex,
 // any other index stands for vertex 0.
-unsigned vertexIndex(const CZqVariant& index) {
-  return index.GetType() == CZqVariant::kVtInt32 ? unsigned(index.GetInt32()) : 0u;
-}
+unsigned vertexIndex(const CZqVariant& index) { return ZqVertexIndex(index); }
 
 // The polyline when it is readable (writable) and has the indexed vertex.
 const P* readableVertex(const OdDbObject* object, const CZqVariant& index, unsigned& i) {
@@ -39,14 +38,7 @@ unsigned segmentCount(const P* pl) {
 // One choice per vertex, numbered from 1; the indexed vertex is the current one.
 CZqVariant getVertex(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& index) {
   const P* pl = ZqReadable<P>(object);
-  if (!pl) return CZqVariant();
-  CZqVariantCollection vertices;
-  for (unsigned i = 0; i < pl->numVerts(); ++i) {
-    const CZqVariant number(int32_t(i + 1));
-    vertices.Add(CZqVariantCollectionElement(number, number));
-  }
-  vertices.SetCurrent(int(vertexIndex(index)));
-  return CZqVariant(vertices);
+  return pl ? ZqVertexChoices(pl->numVerts(), index) : CZqVariant();
 }
 
 // Choosing a vertex changes nothing in the drawing.
@@ -86,15 +78,7 @@ int setVertexCoordinate(const OdDbObject* object, const CZqPropertyDescription&,
 // view's UCS Z axis. Without an open document the drawing's UCS serves.
 bool isVertexReadOnly(const OdDbObject* object, const CZqPropertyDescription&) {
   const P* pl = ZqReadable<P>(object);
-  if (!pl) return true;
-  OdGeVector3d z = ZqUcsOf(object).ucsZAxis();
-  if (CZqDocument* document = ACTIVE_DOCUMENT) {
-    OdGePoint3d origin;
-    OdGeVector3d x, y;
-    OdAbstractViewPEPtr view = OdAbstractViewPE::of(document->activeView());
-    if (view && view->getUcs(document->activeView(), origin, x, y)) z = x.crossProduct(y);
-  }
-  return !pl->normal().isCodirectionalTo(z, OdGeContext::gTol);
+  return !pl || !ZqIsInViewPlane(object, pl->normal());
 }
 
 // --- Widths ------------------------------------------------------------------

@@ -18,7 +18,10 @@
 
 // The parent and drawing class of each provider, read from the table.
 template <class Provider> struct ZqParentOf;
-template <class Provider> struct ZqDrawingClassOf;
+// A shared base's drawing class; a provider attached to a class of its own
+// (a row of the table) takes that class instead.
+template <class Provider> struct ZqBaseDrawingClassOf;
+template <class Provider, class = void> struct ZqDrawingClassOf : ZqBaseDrawingClassOf<Provider> {};
 #define ZQ_CLASS(Provider, Parent, RegisterPosition) \
   class Provider;                                    \
   class Parent;                                      \
@@ -28,10 +31,16 @@ template <class Provider> struct ZqDrawingClassOf;
   class Parent;                                                                          \
   class DrawingClass;                                                                    \
   template <> struct ZqParentOf<Provider> { using type = Parent; };                      \
-  template <> struct ZqDrawingClassOf<Provider> { using type = DrawingClass; };
+  template <> struct ZqBaseDrawingClassOf<Provider> { using type = DrawingClass; };
 #define ZQ_ROW(Row, DrawingClass, RegisteredIndex, Provider, Step, Info, InfoPosition) \
   class Provider;                                                                     \
   class DrawingClass;                                                                 \
+  template <> struct ZqDrawingClassOf<Provider> { using type = DrawingClass; };
+#define ZQ_PRIMITIVE_CLASS(Provider, Parent, DrawingClass, RegisterPosition)          \
+  class Provider;                                                                    \
+  class Parent;                                                                      \
+  class DrawingClass;                                                                \
+  template <> struct ZqParentOf<Provider> { using type = Parent; };                  \
   template <> struct ZqDrawingClassOf<Provider> { using type = DrawingClass; };
 #include "ZqProviders.def"
 

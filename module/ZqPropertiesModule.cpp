@@ -121,6 +121,11 @@ void CZqPropertiesModule::startUp(ZqUndoLog& log) {
   for (size_t i : order.infos) attach(log, rows[i].drawingClass, CZqPrintObjectInfoPE::desc(), rows[i].info);
   // 9. Providers under a protocol of their own.
   for (size_t i : order.own) attach(log, rows[i].drawingClass, rows[i].ownProtocol(), rows[i].provider);
+  // 10. The solid-primitive provider classes, which the solid provider
+  // chooses among per object.
+#define ZQ_PRIMITIVE_CLASS(Provider, Parent, DrawingClass, RegisterPosition) \
+  registerClass(log, &Provider::rxInit, &Provider::rxUninit);
+#include "ZqProviders.def"
   // 11-12. The host's drawing-view provider class, and the command.
   registerClass(log, &CZqDrawingViewPE::rxInit, &CZqDrawingViewPE::rxUninit);
   log.run([this] { odedRegCmds()->addCommand(&m_command); }, [this] { odedRegCmds()->removeCmd(&m_command); });
@@ -155,8 +160,12 @@ void CZqPropertiesModule::uninitApp() {
     OdRxClass* cls = r.row >= 0 ? rows[size_t(r.row)].drawingClass : kExtraInfoRemovals[r.extra]();
     cls->delX(CZqPrintObjectInfoPE::desc());
   }
-  // 8-11. The factory, the information protocol, the drawing-view class.
+  // 8-9. The factory and the information protocol.
   CZqPropertyPEClassFactory::destroy();
   CZqPrintObjectInfoPE::rxUninit();
+  // 10. The solid-primitive classes in their start-up order.
+#define ZQ_PRIMITIVE_CLASS(Provider, Parent, DrawingClass, RegisterPosition) Provider::rxUninit();
+#include "ZqProviders.def"
+  // 11. The drawing-view class.
   CZqDrawingViewPE::rxUninit();
 }

@@ -6,13 +6,20 @@
 #include "MinusProperties.h"
 #include "ZqEntityExPE.h"
 #include "ZqLifecycle.h"
+#include "Arc.h"
 #include "Circle.h"
+#include "Ellipse.h"
 #include "Line.h"
+#include "MText.h"
 #include "Point.h"
 #include "Polyline.h"
+#include "Polyline2d.h"
 #include "Ray.h"
+#include "Spline.h"
 #include "Text.h"
+#include "Vertex.h"
 #include "Xline.h"
+#include "Solids.h"
 
 #include <vector>
 

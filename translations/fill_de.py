@@ -193,6 +193,73 @@ DE.setdefault("OdDxf", {}).update({
     "Linetype scale": "Der Linientypfaktor",
 })
 
+# Curves: arcs and ellipses.
+DE.setdefault("CZqArcPE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("CZqEllipsePE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({"Arc": "Bogen", "Ellipse": "Ellipse"})
+DE.setdefault("property_types", {}).update({
+    "Start angle": "Startwinkel", "End angle": "Endwinkel", "Total angle": "Gesamtwinkel", "Arc length": "Bogenlänge",
+    "Major radius": "Hauptradius", "Minor radius": "Nebenradius", "Radius ratio": "Radienverhältnis",
+    "Major axis X": "Hauptachse X", "Major axis Y": "Hauptachse Y", "Major axis Z": "Hauptachse Z",
+    "Start parameter": "Startparameter", "End parameter": "Endparameter"})
+DE.setdefault("info_items", {}).update({
+    "Start angle": "Startwinkel", "End angle": "Endwinkel", "Total angle": "Gesamtwinkel", "Major axis": "Hauptachse",
+    "Minor axis": "Nebenachse", "Radius ratio": "Radienverhältnis"})
+DE.setdefault("errors", {}).update({
+    "Minor radius must not be greater than the major radius": "Der Nebenradius darf nicht größer als der Hauptradius sein",
+    "Radius ratio must be greater than 0 and at most 1": "Das Radienverhältnis muss größer als 0 und höchstens 1 sein"})
+
+# Curves: 2D polylines and their vertices.
+DE.setdefault("CZq2dPolylinePE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({"2D Polyline": "2D-Polylinie", "Vertex": "Scheitelpunkt"})
+DE.setdefault("property_types", {}).update({"Fit/Smooth": "Kurvenlinie/Glätten", "Bulge": "Wölbung"})
+DE.setdefault("property_values", {}).update({
+    "None": "Keine", "Curve fit": "Kurvenangleichung", "Quadratic": "Quadratisch", "Cubic": "Kubisch"})
+DE.setdefault("info_items", {}).update({"Fit/Smooth": "Kurvenlinie/Glätten"})
+DE.setdefault("errors", {}).update({
+    "There is no vertex %1: the object has %2 vertices.": "Es gibt keinen Scheitelpunkt %1: das Objekt hat %2 Scheitelpunkte."})
+
+# Curves: splines.
+DE.setdefault("CZqSplinePE_Prop", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({"Spline": "Spline"})
+DE.setdefault("property_types", {}).update({
+    "Degree": "Grad", "Control point": "Kontrollpunkt", "Control point X": "Kontrollpunkt X",
+    "Control point Y": "Kontrollpunkt Y", "Control point Z": "Kontrollpunkt Z", "Weight": "Gewichtung",
+    "Number of control points": "Anzahl Kontrollpunkte", "Number of fit points": "Anzahl Anpassungspunkte",
+    "Fit tolerance": "Anpassungstoleranz", "Periodic": "Periodisch", "Rational": "Rational"})
+DE.setdefault("info_items", {}).update({
+    "Degree": "Grad", "Closed": "Geschlossen", "Periodic": "Periodisch", "Rational": "Rational",
+    "Number of control points": "Anzahl Kontrollpunkte", "Control Point %1": "Kontrollpunkt %1",
+    "Number of fit points": "Anzahl Anpassungspunkte", "Fit Point %1": "Anpassungspunkt %1"})
+DE.setdefault("errors", {}).update({
+    "Degree must be a whole number from 1 to 10": "Der Grad muss eine ganze Zahl von 1 bis 10 sein",
+    "The degree of a spline without fit points cannot be changed": "Der Grad eines Splines ohne Anpassungspunkte kann nicht geändert werden",
+    "The degree must be lower than the number of fit points": "Der Grad muss kleiner als die Anzahl der Anpassungspunkte sein"})
+# Multiline text: rows, choices, information lines and its refusal.
+DE.setdefault("entity_types", {}).update({"MText": "MText"})
+DE.setdefault("property_groups", {}).update({"Columns": "Spalten"})
+DE.setdefault("property_types", {}).update({
+    "Plain text": "Klartext", "Direction": "Richtung", "Width": "Breite", "Line space factor": "Zeilenabstandsfaktor",
+    "Line space style": "Zeilenabstandsstil", "Background mask": "Hintergrundmaske", "Mask color": "Maskenfarbe",
+    "Use drawing background": "Zeichnungshintergrund verwenden", "Border offset": "Randabstand",
+    "Columns": "Spalten", "Column count": "Spaltenanzahl", "Column width": "Spaltenbreite",
+    "Column gutter": "Spaltenabstand", "Column height": "Spaltenhöhe"})
+DE.setdefault("property_values", {}).update({
+    "Left to right": "Links nach rechts", "Right to left": "Rechts nach links", "Top to bottom": "Oben nach unten",
+    "Bottom to top": "Unten nach oben", "By style": "Nach Stil", "At least": "Mindestens", "Exactly": "Genau",
+    "None": "Keine", "Static": "Statisch", "Dynamic": "Dynamisch"})
+DE.setdefault("info_items", {}).update({
+    "Location": "Einfügepunkt", "Attachment": "Ausrichtung", "Direction": "Richtung", "width": "Breite",
+    "line spacing factor": "Zeilenabstandsfaktor"})
+DE.setdefault("info_values", {}).update({
+    "Top Left": "Oben links", "Top Center": "Oben zentriert", "Top Right": "Oben rechts",
+    "Middle Left": "Mitte links", "Middle Center": "Mitte zentriert", "Middle Right": "Mitte rechts",
+    "Bottom Left": "Unten links", "Bottom Center": "Unten zentriert", "Bottom Right": "Unten rechts",
+    "Left to right": "Links nach rechts", "Right to left": "Rechts nach links", "Top to bottom": "Oben nach unten",
+    "Bottom to top": "Unten nach oben", "By style": "Nach Stil"})
+DE.setdefault("errors", {}).update({
+    "Multiline text can hold line breaks and tabs but no other control characters":
+        "Mehrzeiliger Text kann Zeilenumbrüche und Tabulatoren, aber keine anderen Steuerzeichen enthalten"})
 # zqprops for real work: selections, undo, unsaved edits, scripts.
 DE.setdefault("zqprops", {}).update({
     'zqprops: --space takes model, paper or all, not "%1".': 'zqprops: --space nimmt model, paper oder all, nicht "%1".',
@@ -218,9 +285,36 @@ DE.setdefault("CZqSelection", {}).update({
 })
 
 
+# Reliability: refusals found by fuzzing, and saves refused before writing.
+DE.setdefault("errors", {}).update({
+    "A hyperlink needs a drawing saved as %1 or later; this drawing is %2.": "Ein Hyperlink braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.",
+})
+DE.setdefault("OdDxf", {}).update({
+    "Cannot write %1: it is a folder, not a file.": "%1 kann nicht geschrieben werden: es ist ein Ordner, keine Datei.",
+    "Cannot write %1: it is a device or another special file, not a regular file.": "%1 kann nicht geschrieben werden: es ist ein Gerät oder eine andere Spezialdatei, keine gewöhnliche Datei.",
+})
+
 path = sys.argv[1] if len(sys.argv) > 1 else "translations/zqprops_de.ts"
 tree = ET.parse(path)
 missing = []
+# 3D solids, regions and surfaces.
+DE.setdefault("entity_types", {}).update({"3D Solid": "3D-Volumenkörper", "Body": "Körper", "Region": "Region",
+    "Surface (Planar)": "Fläche (eben)", "Surface (Extrusion)": "Fläche (Extrusion)",
+    "Surface (Revolve)": "Fläche (Rotation)", "Surface (Sweep)": "Fläche (Sweep)", "Surface (Loft)": "Fläche (Erhebung)"})
+DE.setdefault("property_types", {}).update({"Solid type": "Volumenkörpertyp", "Position X": "Position X",
+    "Position Y": "Position Y", "Position Z": "Position Z", "Length": "Länge", "Width": "Breite", "Height": "Höhe",
+    "Rotation": "Drehung", "Elliptical": "Elliptisch", "Major radius": "Hauptradius", "Minor radius": "Nebenradius",
+    "Radius": "Radius", "Base radius": "Basisradius", "Top radius": "Oberer Radius", "Perimeter": "Umfang",
+    "Area": "Fläche", "U isolines": "U-Isolinien", "V isolines": "V-Isolinien", "Surface type": "Flächentyp",
+    "Surface Type": "Flächentyp", "Diameter": "Durchmesser", "Closed": "Geschlossen"})
+DE.setdefault("property_values", {}).update({"Box": "Quader", "Cylinder": "Zylinder", "Cone": "Kegel",
+    "Pyramid": "Pyramide", "Sphere": "Kugel", "Torus": "Torus", "Wedge": "Keil", "Extrude": "Extrusion",
+    "Revolve": "Rotation", "Sweep": "Sweep", "Planar": "Eben", "Extruded": "Extrudiert",
+    "Loft with guide curves": "Erhebung mit Führungskurven"})
+DE.setdefault("errors", {}).update({
+    "The solid's position is not known, so it cannot be moved.":
+        "Die Position des Volumenkörpers ist unbekannt, daher kann er nicht verschoben werden."})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

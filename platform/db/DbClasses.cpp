@@ -24,6 +24,7 @@ constexpr OdPseudoConstructorType pseudoConstructor() {
   OdSmartPtr<Class> Class::createObject() { return OdSmartPtr<Class>(new Class()); }
 ODDB_DEFINE_CREATE(OdDbLine)
 ODDB_DEFINE_CREATE(OdDbCircle)
+ODDB_DEFINE_CREATE(OdDbArc)
 ODDB_DEFINE_CREATE(OdDbEllipse)
 ODDB_DEFINE_CREATE(OdDbSpline)
 ODDB_DEFINE_CREATE(OdDbPolyline)
@@ -42,6 +43,15 @@ ODDB_DEFINE_CREATE(OdDbTextStyleTableRecord)
 ODDB_DEFINE_CREATE(OdDbDimStyleTableRecord)
 ODDB_DEFINE_CREATE(OdDbRegAppTableRecord)
 ODDB_DEFINE_CREATE(OdDbBlockTableRecord)
+ODDB_DEFINE_CREATE(OdDb3dSolid)
+ODDB_DEFINE_CREATE(OdDbBody)
+ODDB_DEFINE_CREATE(OdDbRegion)
+ODDB_DEFINE_CREATE(OdDbSurface)
+ODDB_DEFINE_CREATE(OdDbPlaneSurface)
+ODDB_DEFINE_CREATE(OdDbExtrudedSurface)
+ODDB_DEFINE_CREATE(OdDbRevolvedSurface)
+ODDB_DEFINE_CREATE(OdDbSweptSurface)
+ODDB_DEFINE_CREATE(OdDbLoftedSurface)
 
 #define ODDB_DEFINE_TABLE(Table, Record)                                                  \
   OdSmartPtr<Table> Table::createObject() { return OdSmartPtr<Table>(new Table()); }      \

@@ -27,6 +27,29 @@ void OdDbEllipse::set(const OdGePoint3d& center, const OdGeVector3d& unitNormal,
   m_endParam = m_startParam + sweep;
 }
 
+void OdDbEllipse::setStartAngle(double angle) {
+  if (!std::isfinite(angle)) throw OdError(eInvalidInput, OdString("angle must be a finite number"));
+  const double end = endAngle();
+  set(m_center, m_normal, m_major, m_ratio, angle, end);
+}
+
+void OdDbEllipse::setEndAngle(double angle) {
+  if (!std::isfinite(angle)) throw OdError(eInvalidInput, OdString("angle must be a finite number"));
+  set(m_center, m_normal, m_major, m_ratio, startAngle(), angle);
+}
+
+void OdDbEllipse::setMajorRadius(double r) {
+  if (!(r > 0) || !std::isfinite(r)) throw OdError(eInvalidInput, OdString("radius must be positive"));
+  assertWriteEnabled();
+  m_major = m_major.normal() * r;
+}
+
+void OdDbEllipse::setRadiusRatio(double ratio) {
+  if (!(ratio > 0 && ratio <= 1)) throw OdError(eInvalidInput, OdString("radius ratio must be in (0, 1]"));
+  assertWriteEnabled();
+  m_ratio = ratio;
+}
+
 void OdDbEllipse::setCenter(const OdGePoint3d& c) { assertWriteEnabled(); m_center = c; }
 
 void OdDbEllipse::setParams(double startParam, double endParam) {

@@ -29,6 +29,17 @@ class DB_API OdDbEllipse : public OdDbCurve {
   double endAngle() const;
   double startParam() const { assertReadEnabled(); return m_startParam; }
   double endParam() const { assertReadEnabled(); return m_endParam; }
+  // Moves one end to an angle from the major axis; the other end, the axes
+  // and the centre stay. A full ellipse becomes the arc from the new start
+  // round to the old one (or from the old start to the new end).
+  void setStartAngle(double angle);
+  void setEndAngle(double angle);
+  // New axis lengths with the same centre, directions and parameters: the
+  // major radius keeps the ratio; the minor radius and the ratio keep the
+  // major radius. A radius that is not a positive finite number, or a ratio
+  // outside (0, 1], raises OdError(eInvalidInput) and changes nothing.
+  void setMajorRadius(double r);
+  void setRadiusRatio(double ratio);
   // The parameters directly (DXF codes 41 and 42).
   void setParams(double startParam, double endParam);
   double paramAtAngle(double angle) const;

@@ -107,6 +107,28 @@ void OdDbMText::setBackgroundScaleFactor(double s) {
   m_fillScale = s;
 }
 
+void OdDbMText::setColumnType(ColumnType type) {
+  if (type < kNoColumns || type > kDynamicColumns) refuse(QStringLiteral("column type %1 is not from 0 to 2").arg(int(type)));
+  assertWriteEnabled();
+  m_columnType = type;
+}
+
+void OdDbMText::setColumnCount(int count) {
+  if (count < 0) refuse(QStringLiteral("the column count must not be negative"));
+  assertWriteEnabled();
+  m_columnCount = count;
+}
+
+namespace {
+void checkColumnSize(double v, const char* what) {
+  if (!(v >= 0) || !std::isfinite(v)) refuse(QStringLiteral("the column %1 must not be negative").arg(QLatin1String(what)));
+}
+}  // namespace
+
+void OdDbMText::setColumnWidth(double w) { checkColumnSize(w, "width"); assertWriteEnabled(); m_columnWidth = w; }
+void OdDbMText::setColumnGutterWidth(double g) { checkColumnSize(g, "gutter"); assertWriteEnabled(); m_columnGutter = g; }
+void OdDbMText::setColumnHeight(double h) { checkColumnSize(h, "height"); assertWriteEnabled(); m_columnHeight = h; }
+
 void OdDbMText::copyFrom(const OdRxObject* source) {
   OdDbEntity::copyFrom(source);
   auto* t = static_cast<const OdDbMText*>(source);
@@ -124,4 +146,11 @@ void OdDbMText::copyFrom(const OdRxObject* source) {
   m_style = t->m_style;
   m_fillFlags = t->m_fillFlags;
   m_fillColor = t->m_fillColor;
+  m_columnType = t->m_columnType;
+  m_columnCount = t->m_columnCount;
+  m_columnWidth = t->m_columnWidth;
+  m_columnGutter = t->m_columnGutter;
+  m_columnHeight = t->m_columnHeight;
+  m_columnAutoHeight = t->m_columnAutoHeight;
+  m_columnFlowReversed = t->m_columnFlowReversed;
 }

@@ -68,6 +68,28 @@ class DB_API OdDbMText : public OdDbEntity {
   double getBackgroundScaleFactor() const { assertReadEnabled(); return m_fillScale; }
   void setBackgroundScaleFactor(double s);
 
+  // Columns, as the drawing file holds them (an R2018 file in the text's
+  // embedded object, older ones in the ACAD extended data). The platform
+  // does not lay text out in columns; it keeps and shows what was read.
+  enum ColumnType { kNoColumns = 0, kStaticColumns = 1, kDynamicColumns = 2 };
+  ColumnType getColumnType() const { assertReadEnabled(); return m_columnType; }
+  int getColumnCount() const { assertReadEnabled(); return m_columnCount; }
+  double getColumnWidth() const { assertReadEnabled(); return m_columnWidth; }
+  double getColumnGutterWidth() const { assertReadEnabled(); return m_columnGutter; }
+  bool getColumnAutoHeight() const { assertReadEnabled(); return m_columnAutoHeight; }
+  bool getColumnFlowReversed() const { assertReadEnabled(); return m_columnFlowReversed; }
+  // The height of the columns (the defined height of the text); 0 when the
+  // columns take the height of their contents.
+  double getColumnHeight() const { assertReadEnabled(); return m_columnHeight; }
+  // Refused: a type out of 0..2, a negative count, width, gutter or height.
+  void setColumnType(ColumnType type);
+  void setColumnCount(int count);
+  void setColumnWidth(double w);
+  void setColumnGutterWidth(double g);
+  void setColumnAutoHeight(bool on) { assertWriteEnabled(); m_columnAutoHeight = on; }
+  void setColumnFlowReversed(bool on) { assertWriteEnabled(); m_columnFlowReversed = on; }
+  void setColumnHeight(double h);
+
   void copyFrom(const OdRxObject* source) override;
 
  private:
@@ -81,5 +103,9 @@ class DB_API OdDbMText : public OdDbEntity {
   OdDbObjectId m_style;
   int m_fillFlags = 0;
   OdCmColor m_fillColor = OdCmColor::byBlock();
+  ColumnType m_columnType = kNoColumns;
+  int m_columnCount = 0;
+  double m_columnWidth = 0, m_columnGutter = 0, m_columnHeight = 0;
+  bool m_columnAutoHeight = false, m_columnFlowReversed = false;
 };
 using OdDbMTextPtr = OdSmartPtr<OdDbMText>;

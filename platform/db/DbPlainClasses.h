@@ -5,6 +5,7 @@
 // such objects whole.
 #include "DbLine.h"
 #include "DbCircle.h"
+#include "DbArc.h"
 #include "DbEllipse.h"
 #include "DbSpline.h"
 #include "DbPolyline.h"
@@ -17,6 +18,7 @@
 #include "DbSymbolTable.h"
 #include "DbDimStyle.h"
 #include "DbDimension.h"
+#include "DbModelerGeometry.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

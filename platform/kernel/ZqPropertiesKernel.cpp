@@ -138,6 +138,7 @@ constexpr int kLineweightRelease = 1015;  // R2000: group 370
 constexpr int kPlotStyleRelease = 1015;   // R2000: group 390 and the plot style names
 constexpr int kTrueColorRelease = 1018;   // R2004: group 420
 constexpr int kTransparencyRelease = 1018;  // R2004: group 440
+constexpr int kHyperlinkRelease = 1009;   // R12: extended data, where hyperlinks are kept
 
 // True when the release the entity's drawing is saved in holds a value that
 // needs `needed`; otherwise refuses with `message` ("... needs a drawing
@@ -310,6 +311,9 @@ int setHyperlink(const OdDbObject* o, const CZqPropertyDescription&, const CZqVa
   if (!e || v.GetType() != CZqVariant::kVtString) return kZqSetRefused;
   OdArray<OdDbHyperlink> links = e->hyperlinks();
   const QString url = v.GetString().qstring().trimmed();
+  if (!url.isEmpty() &&
+      !releaseHolds(e, kHyperlinkRelease, QT_TRANSLATE_NOOP("errors", "A hyperlink needs a drawing saved as %1 or later; this drawing is %2.")))
+    return kZqSetRefused;
   if (url.isEmpty()) links.clear();
   else if (links.isEmpty()) links.append(OdDbHyperlink{OdString(url), {}, {}});
   else links.front().name = OdString(url);

@@ -17,6 +17,20 @@ OdDbEntityPtr circle() {
   c->setNormal(OdGeVector3d(1, 0, 1).normal());
   return c;
 }
+OdDbEntityPtr arc() {
+  OdDbArcPtr a = OdDbArc::createObject();
+  a->setCenter(OdGePoint3d(-1, 3, 2));
+  a->setRadius(2);
+  a->setStartAngle(1);
+  a->setEndAngle(4);
+  a->setNormal(OdGeVector3d(0, 1, 1).normal());
+  return a;
+}
+OdDbEntityPtr ellipse() {
+  OdDbEllipsePtr e = OdDbEllipse::createObject();
+  e->set(OdGePoint3d(3, 1, -2), OdGeVector3d(1, 0, 1).normal(), OdGeVector3d(0, 4, 0), 0.5, 0.5, 2.5);
+  return e;
+}
 OdDbEntityPtr point() {
   OdDbPointPtr p = OdDbPoint::createObject();
   p->setPosition(OdGePoint3d(7, 1, -2));
@@ -106,6 +120,20 @@ INSTANTIATE_TEST_SUITE_P(
                 }},
         UcsCase{"CircleNormal", circle, "Normal", true, false,
                 [](OdDbEntity* e) { return State{O + as<OdDbCircle>(e)->normal()}; }},
+        UcsCase{"ArcCenter", arc, "Center", false, true,
+                [](OdDbEntity* e) {
+                  auto* a = as<OdDbArc>(e);
+                  return State{a->center(), O + a->normal(), OdGePoint3d(a->radius(), a->startAngle(), a->endAngle())};
+                }},
+        UcsCase{"ArcNormal", arc, "Normal", true, false, [](OdDbEntity* e) { return State{O + as<OdDbArc>(e)->normal()}; }},
+        UcsCase{"EllipseCenter", ellipse, "Center", false, true,
+                [](OdDbEntity* e) {
+                  auto* el = as<OdDbEllipse>(e);
+                  return State{el->center(), O + el->majorAxis(), O + el->normal(),
+                               OdGePoint3d(el->radiusRatio(), el->startParam(), el->endParam())};
+                }},
+        UcsCase{"EllipseMajorAxis", ellipse, "Major axis", true, false,
+                [](OdDbEntity* e) { return State{O + as<OdDbEllipse>(e)->majorAxis()}; }},
         UcsCase{"PointPosition", point, "Position", false, true,
                 [](OdDbEntity* e) { return State{as<OdDbPoint>(e)->position()}; }},
         UcsCase{"RayBase", rayLike<OdDbRay>, "Base point", false, true,

@@ -1,4 +1,4 @@
-// The curve entities' own data: LINE, CIRCLE, ELLIPSE, SPLINE, LWPOLYLINE,
+// The curve entities' own data: LINE, CIRCLE, ARC, ELLIPSE, SPLINE, LWPOLYLINE,
 // POLYLINE (2D) with its VERTEX records, POINT, RAY and XLINE. Each
 // function lists a class's fields in the order the DXF reference gives its
 // group codes; object coordinate system values go through the arbitrary
@@ -27,6 +27,23 @@ void circleFields(Fields<OdDbCircle>& f) {
   f.ocsPoint(10, 210, &OdDbCircle::center, &OdDbCircle::setCenter, &OdDbCircle::normal);
   f.real(40, &OdDbCircle::radius, &OdDbCircle::setRadius);
   f.normal(210, &OdDbCircle::normal, &OdDbCircle::setNormal);
+}
+
+void arcFields(Fields<OdDbArc>& f) {
+  using A = OdDbArc;
+  f.subclass("AcDbCircle");
+  f.real(39, &A::thickness, &A::setThickness, 0.0, Opt::Optional);
+  f.ocsPoint(10, 210, &A::center, &A::setCenter, &A::normal);
+  f.real(40, &A::radius, &A::setRadius);
+  f.normal(210, &A::normal, &A::setNormal);
+  // The angles are degrees in the file.
+  f.subclass("AcDbArc");
+  f.real(
+      50, [](const A* a) { return qRadiansToDegrees(a->startAngle()); },
+      [](A* a, double deg) { a->setStartAngle(qDegreesToRadians(deg)); });
+  f.real(
+      51, [](const A* a) { return qRadiansToDegrees(a->endAngle()); },
+      [](A* a, double deg) { a->setEndAngle(qDegreesToRadians(deg)); });
 }
 
 void pointFields(Fields<OdDbPoint>& f) {

@@ -348,6 +348,7 @@ namespace {
 constexpr ClassMapping kEntities[] = {
     {"LINE",       &OdDbLine::desc,        0,    &fieldsOf<OdDbLine, lineFields>,                   false},
     {"CIRCLE",     &OdDbCircle::desc,      0,    &fieldsOf<OdDbCircle, circleFields>,               false},
+    {"ARC",        &OdDbArc::desc,         0,    &fieldsOf<OdDbArc, arcFields>,                     false},
     {"ELLIPSE",    &OdDbEllipse::desc,     1012, &fieldsOf<OdDbEllipse, ellipseFields>,             false},
     {"SPLINE",     &OdDbSpline::desc,      1012, &fieldsOf<OdDbSpline, splineFields>,               false},
     {"LWPOLYLINE", &OdDbPolyline::desc,    1014, &fieldsOf<OdDbPolyline, lwpolylineFields>,         false},
@@ -360,6 +361,16 @@ constexpr ClassMapping kEntities[] = {
     {"ATTRIB",     &OdDbAttribute::desc,   0,    &fieldsOf<OdDbAttribute, attribFields>,            false},
     {"MTEXT",      &OdDbMText::desc,       1012, &fieldsOf<OdDbMText, mtextFields>,                 false},
     // Dimensions: only the style is mapped yet.
+    // Modeller data is partly mapped: new objects of these classes cannot be written.
+    {"3DSOLID",    &OdDb3dSolid::desc,     0,    &fieldsOf<OdDb3dSolid, solidFields>,               false, true},
+    {"BODY",       &OdDbBody::desc,        0,    &fieldsOf<OdDbBody, bodyFields>,                   false, true},
+    {"REGION",     &OdDbRegion::desc,      0,    &fieldsOf<OdDbRegion, regionFields>,               false, true},
+    {"SURFACE",    &OdDbSurface::desc,     0,    &fieldsOf<OdDbSurface, surfaceFields>,             false, true},
+    {"PLANESURFACE", &OdDbPlaneSurface::desc, 0, &fieldsOf<OdDbSurface, surfaceFields>,          false, true},
+    {"EXTRUDEDSURFACE", &OdDbExtrudedSurface::desc, 0, &fieldsOf<OdDbExtrudedSurface, extrudedSurfaceFields>, false, true},
+    {"REVOLVEDSURFACE", &OdDbRevolvedSurface::desc, 0, &fieldsOf<OdDbRevolvedSurface, revolvedSurfaceFields>, false, true},
+    {"SWEPTSURFACE", &OdDbSweptSurface::desc, 0, &fieldsOf<OdDbSweptSurface, sweptSurfaceFields>, false, true},
+    {"LOFTEDSURFACE", &OdDbLoftedSurface::desc, 0, &fieldsOf<OdDbLoftedSurface, loftedSurfaceFields>, false, true},
     {"DIMENSION",  &OdDbRotatedDimension::desc,       0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
     {"DIMENSION",  &OdDbAlignedDimension::desc,       0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},
     {"DIMENSION",  &OdDb2LineAngularDimension::desc,  0, &fieldsOf<OdDbDimension, dimensionFields>, false, true},

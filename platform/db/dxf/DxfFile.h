@@ -29,11 +29,23 @@
 
 #include <QStringList>
 
+class QFileDevice;
+
 namespace OdDxf {
 
 // Writes bytes through a temporary file renamed over path, so that a failed
-// save leaves an existing file whole. False with error set on failure.
+// save leaves an existing file whole. False with error set on failure; a
+// target that exists and is not a regular file (a folder, a device) is
+// refused before anything is written.
 DB_API bool saveBytes(const QString& path, const QByteArray& bytes, QString& error);
+
+// Every write of saveBytes goes through this function: it writes up to
+// `size` bytes to the open temporary file and returns how many it wrote, or
+// -1 with the reason in `reason` (empty: the file's own error). Tests replace
+// it to make a chosen write fail as a full disk would. Returns the function
+// it replaces; nullptr restores the plain write.
+using SaveWriteFn = qint64 (*)(QFileDevice& file, const char* data, qint64 size, QString& reason);
+DB_API SaveWriteFn setSaveWriteFn(SaveWriteFn fn);
 
 struct DB_API Section {
   QByteArray name;             // "HEADER", "ENTITIES", ...; empty for stray records

@@ -30,6 +30,7 @@
 
 class OdDbLine;
 class OdDbCircle;
+class OdDbArc;
 class OdDbEllipse;
 class OdDbSpline;
 class OdDbPolyline;
@@ -43,6 +44,14 @@ class OdDbAttribute;
 class OdDbAttributeDefinition;
 class OdDbMText;
 class OdDbDimension;
+class OdDb3dSolid;
+class OdDbBody;
+class OdDbRegion;
+class OdDbSurface;
+class OdDbExtrudedSurface;
+class OdDbRevolvedSurface;
+class OdDbSweptSurface;
+class OdDbLoftedSurface;
 
 namespace OdDxf::mapping {
 
@@ -382,6 +391,7 @@ struct ClassMapping {
 // The fields of the classes whose data is mapped (DxfCurves.cpp).
 void lineFields(Fields<OdDbLine>& f);
 void circleFields(Fields<OdDbCircle>& f);
+void arcFields(Fields<OdDbArc>& f);
 void ellipseFields(Fields<OdDbEllipse>& f);
 void splineFields(Fields<OdDbSpline>& f);
 void lwpolylineFields(Fields<OdDbPolyline>& f);
@@ -396,6 +406,16 @@ void attribFields(Fields<OdDbAttribute>& f);
 void mtextFields(Fields<OdDbMText>& f);
 // What every dimension kind has: its style (DxfText.cpp).
 void dimensionFields(Fields<OdDbDimension>& f);
+// Solids, bodies, regions and surfaces: modeller data, history, surface
+// parameters (DxfSolids.cpp).
+void solidFields(Fields<OdDb3dSolid>& f);
+void bodyFields(Fields<OdDbBody>& f);
+void regionFields(Fields<OdDbRegion>& f);
+void surfaceFields(Fields<OdDbSurface>& f);
+void extrudedSurfaceFields(Fields<OdDbExtrudedSurface>& f);
+void revolvedSurfaceFields(Fields<OdDbRevolvedSurface>& f);
+void sweptSurfaceFields(Fields<OdDbSweptSurface>& f);
+void loftedSurfaceFields(Fields<OdDbLoftedSurface>& f);
 // DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
 void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 

@@ -13,6 +13,20 @@ using detail::Access;
 
 constexpr int kMaxWarnings = 50;
 
+// The longest value a tag may hold. DXF strings are at most a few thousand
+// bytes (longer text is split over several tags), so a longer value is a
+// damaged file; refusing it keeps the memory reading takes near the file's
+// size, where decoding and showing a gigabyte of text would take many times
+// that.
+constexpr qsizetype kMaxValueBytes = qsizetype(1) << 20;
+
+QString valueTooLong(int code, qsizetype bytes) {
+  return QStringLiteral("value of group code %1 is %2 bytes long; a DXF value holds at most %3 (file damaged?)")
+      .arg(code)
+      .arg(bytes)
+      .arg(QStringLiteral("1 MB"));
+}
+
 // Text of the bytes [b, e) for a message: printable ASCII kept, the rest as
 // \xNN, cut to 40 bytes.
 QString preview(const char* b, const char* e) {
@@ -163,8 +177,8 @@ bool Reader::tokenizeAscii(const char* p) {
     }
     if (value - codeLine > 0xFFFF)
       return fail(QStringLiteral("line %1").arg(line), QStringLiteral("group code line too long"));
-    if (valueEnd - value > 0x7FFFFFFF)
-      return fail(QStringLiteral("line %1").arg(line + 1), QStringLiteral("value line too long"));
+    if (valueEnd - value > kMaxValueBytes)
+      return fail(QStringLiteral("line %1").arg(line + 1), valueTooLong(code, valueEnd - value));
     m_tags.push_back(Access::make(value, valueEnd - value, code, int(value - codeLine), post, false, false));
     p = vnl ? vnl + 1 : m_end;
     line += 2;
@@ -224,6 +238,7 @@ bool Reader::tokenizeBinary() {
                                     .arg(code));
       n = static_cast<const char*>(nul) - (m_base + p);
       post = 1;
+      if (n > kMaxValueBytes) return fail(m_base + p, valueTooLong(code, n));
     }
     if (p + n > size)
       return fail(m_base + p, QStringLiteral("value of group code %1 needs %2 bytes, %3 left (file truncated?)")

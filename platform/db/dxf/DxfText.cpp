@@ -187,6 +187,81 @@ void fillColorField(Fields<M>& f) {
   }
 }
 
+// Columns. An R2018 record keeps them in its embedded object (the tags
+// after 101): 71 type, 72 count, 44 width, 45 gutter, 73 auto height, 74
+// flow reversed, 41 the defined height. Older records keep them in the ACAD
+// extended data, between "ACAD_MTEXT_COLUMN_INFO_BEGIN" and "..._END", as
+// pairs of a 1070 item naming the group code and an item with its value,
+// and the defined height between "ACAD_MTEXT_DEFINED_HEIGHT_BEGIN" and
+// "..._END". The tags stay in the record as they were read; the platform
+// has no column layout to write, so a changed one is refused when saving
+// rather than lost.
+void columnsField(Fields<M>& f) {
+  RecordIO& io = f.io();
+  M* m = f.object();
+  if (!io.reading()) {
+    const M* b = f.before();
+    const bool same = m->getColumnType() == b->getColumnType() && m->getColumnCount() == b->getColumnCount() &&
+                      m->getColumnWidth() == b->getColumnWidth() &&
+                      m->getColumnGutterWidth() == b->getColumnGutterWidth() &&
+                      m->getColumnHeight() == b->getColumnHeight() &&
+                      m->getColumnAutoHeight() == b->getColumnAutoHeight() &&
+                      m->getColumnFlowReversed() == b->getColumnFlowReversed();
+    if (!same) throw MapError{io.where(0) + QStringLiteral(": the columns of a multiline text cannot be saved")};
+    return;
+  }
+  auto set = [&](int code, double v) {
+    f.apply(code, [&] {
+      switch (code) {
+        case 71: case 75: m->setColumnType(M::ColumnType(int(v))); break;
+        case 72: case 76: m->setColumnCount(int(v)); break;
+        case 44: case 48: m->setColumnWidth(v); break;
+        case 45: case 49: m->setColumnGutterWidth(v); break;
+        case 73: case 79: m->setColumnAutoHeight(v != 0); break;
+        case 74: case 78: m->setColumnFlowReversed(v != 0); break;
+        case 41: case 46: m->setColumnHeight(v); break;
+      }
+    });
+  };
+  const Record& r = io.record();
+  for (int i = 1; i < r.size(); ++i) {
+    if (r.at(i).code() != 101) continue;
+    for (int j = i + 1; j < r.size(); ++j) {
+      const int code = r.at(j).code();
+      if (code == 100 || code == 101 || code >= 1000) break;
+      if (code == 41 || code == 44 || code == 45) set(code, io.realAt(j));
+      else if (code >= 71 && code <= 74) set(code, double(io.integerAt(j)));
+    }
+    return;
+  }
+  const OdResBufPtr acad = io.xdataOf(QStringLiteral("ACAD"));
+  enum { None, Info, Height } in = None;
+  int pending = -1;  // the group code whose value comes next
+  for (const OdResBuf* rb = acad.get(); rb; rb = rb->next()) {
+    if (rb->restype() == OdResBuf::kDxfXdAsciiString) {
+      const QString word = rb->getString().qstring();
+      in = word == QLatin1String("ACAD_MTEXT_COLUMN_INFO_BEGIN")     ? Info
+           : word == QLatin1String("ACAD_MTEXT_DEFINED_HEIGHT_BEGIN") ? Height
+                                                                       : None;
+      pending = -1;
+      continue;
+    }
+    if (in == None) continue;
+    const bool real = rb->restype() == OdResBuf::kDxfXdReal;
+    if (pending < 0) {
+      if (rb->restype() == OdResBuf::kDxfXdInteger16) pending = rb->getInt16();
+      continue;
+    }
+    if (pending == 50) {  // the count of the column heights that follow
+      pending = -1;
+      continue;
+    }
+    if ((in == Info || pending == 46) && (real || rb->restype() == OdResBuf::kDxfXdInteger16))
+      set(pending, real ? rb->getDouble() : double(rb->getInt16()));
+    pending = -1;
+  }
+}
+
 }  // namespace
 
 void textFields(Fields<OdDbText>& f) {
@@ -226,6 +301,7 @@ void mtextFields(Fields<OdDbMText>& f) {
   mapFields(f, kMTextSpacingRows);
   fillColorField(f);
   mapFields(f, kMTextFillRows);
+  columnsField(f);
 }
 
 }  // namespace OdDxf::mapping

@@ -7,10 +7,12 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QHash>
 #include <QSaveFile>
 
 #include <algorithm>
+#include <atomic>
 
 namespace OdDxf {
 namespace {
@@ -111,14 +113,36 @@ QByteArray File::write(Form form, QStringList* problems) const {
   return out;
 }
 
+namespace {
+
+qint64 plainWrite(QFileDevice& file, const char* data, qint64 size, QString&) { return file.write(data, size); }
+
+std::atomic<SaveWriteFn> g_saveWrite{plainWrite};
+
+}  // namespace
+
+SaveWriteFn setSaveWriteFn(SaveWriteFn fn) { return g_saveWrite.exchange(fn ? fn : plainWrite); }
+
 bool saveBytes(const QString& path, const QByteArray& bytes, QString& error) {
+  // A folder or a device (/dev/full, a terminal) is never replaced by the
+  // renamed temporary file: refused before anything is written.
+  const QFileInfo target(path);
+  if (target.exists() && !target.isFile()) {
+    error = QCoreApplication::translate("OdDxf", "Cannot write %1: it is a folder, not a file.")
+                .arg(QDir::toNativeSeparators(path));
+    if (!target.isDir())
+      error = QCoreApplication::translate("OdDxf", "Cannot write %1: it is a device or another special file, not a regular file.")
+                  .arg(QDir::toNativeSeparators(path));
+    return false;
+  }
   // Unbuffered, so that every write reports its own failure (a full disk, a
   // file size limit) rather than a final flush that commit() would not
   // report; on any failure the temporary file is dropped and an existing
   // file at `path` stays as it was.
   QSaveFile file(path);
-  auto fail = [&](const char* what) {
-    error = QCoreApplication::translate("OdDxf", what).arg(QDir::toNativeSeparators(path), file.errorString());
+  auto fail = [&](const char* what, const QString& reason = QString()) {
+    error = QCoreApplication::translate("OdDxf", what).arg(QDir::toNativeSeparators(path),
+                                                           reason.isEmpty() ? file.errorString() : reason);
     file.cancelWriting();
     return false;
   };
@@ -127,10 +151,12 @@ bool saveBytes(const QString& path, const QByteArray& bytes, QString& error) {
   static const char* const kNotSaved =
       QT_TRANSLATE_NOOP("OdDxf", "%1 was not saved: %2. An existing file of that name is unchanged.");
   constexpr qsizetype kPiece = qsizetype(1) << 20;
+  const SaveWriteFn write = g_saveWrite.load();
   for (qsizetype done = 0; done < bytes.size();) {
-    const qint64 n = file.write(bytes.constData() + done, qMin(kPiece, bytes.size() - done));
+    QString reason;
+    const qint64 n = write(file, bytes.constData() + done, qMin(kPiece, bytes.size() - done), reason);
     if (n <= 0 || file.error() != QFileDevice::NoError)
-      return fail(kNotSaved);
+      return fail(kNotSaved, reason);
     done += qsizetype(n);
   }
   if (!file.flush() || file.error() != QFileDevice::NoError)

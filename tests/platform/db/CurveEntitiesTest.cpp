@@ -148,6 +148,31 @@ TEST_F(CurveEntitiesTest, CircleMeasuresAndPoints) {
   EXPECT_EQ(c->radius(), 2.5);
 }
 
+TEST_F(CurveEntitiesTest, ArcSweepsCounterClockwiseAcrossZero) {
+  OdDbArcPtr a = OdDbArc::createObject();
+  a->setRadius(2);
+  a->setStartAngle(-OdaPI / 3);       // 300 degrees
+  a->setEndAngle(Oda2PI + OdaPI / 6);  // 30 degrees
+  EXPECT_NEAR(a->startAngle(), 5 * OdaPI / 3, 1e-12);
+  EXPECT_NEAR(a->totalAngle(), OdaPI / 2, 1e-12);
+  double end = 0, dist = 0, area = 0;
+  ASSERT_EQ(a->getEndParam(end), eOk);
+  ASSERT_EQ(a->getDistAtParam(end, dist), eOk);
+  EXPECT_NEAR(dist, OdaPI, 1e-12);
+  ASSERT_EQ(a->getArea(area), eOk);
+  EXPECT_NEAR(area, 2 * (OdaPI / 2 - 1), 1e-12);  // r^2/2 (sweep - sin sweep)
+  OdGePoint3d p;
+  a->getEndPoint(p);
+  EXPECT_TRUE(p.isEqualTo(OdGePoint3d(std::sqrt(3.0), 1, 0), OdGeTol(1e-12)));
+  // Equal angles make a full turn; bad values change nothing.
+  a->setEndAngle(a->startAngle());
+  EXPECT_NEAR(a->totalAngle(), Oda2PI, 1e-12);
+  EXPECT_THROW(a->setRadius(0), OdError);
+  EXPECT_THROW(a->setStartAngle(NAN), OdError);
+  EXPECT_EQ(a->radius(), 2);
+  EXPECT_NEAR(a->startAngle(), 5 * OdaPI / 3, 1e-12);
+}
+
 TEST_F(CurveEntitiesTest, EllipseCircumferenceAndArea) {
   struct Case { double a, ratio; } cases[] = {{5, 1}, {5, 0.6}, {3, 0.2}, {10, 0.95}};
   for (const Case& c : cases) {

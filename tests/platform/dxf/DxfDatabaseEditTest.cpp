@@ -183,6 +183,19 @@ std::vector<EditCase> editCases() {
          const OdGePoint3d c = as<OdDbCircle>(o)->center();
          return QJsonValue(xyz(c.x, c.y, c.z));
        }},
+      {"ArcRadiusAnglesThickness", kEntities2d, &OdDbArc::desc, nullptr,
+       [](OdDbDatabase*, OdDbObject* o) {
+         auto* a = as<OdDbArc>(o);
+         a->setRadius(7.25);
+         a->setStartAngle(OdaPI / 4);
+         a->setEndAngle(1.5 * OdaPI);
+         a->setThickness(-2);
+       },
+       "[e.dxf.radius, e.dxf.start_angle, e.dxf.end_angle, e.dxf.thickness, list(e.dxf.center)]",
+       [](OdDbObject* o) {
+         const OdGePoint3d c = as<OdDbArc>(o)->center();
+         return QJsonValue(QJsonArray{7.25, 45, 270, -2, xyz(c.x, c.y, c.z)});
+       }},
       {"PolylineVertexMovedClosedAndElevated", kEntities2d, lw, nullptr,
        [](OdDbDatabase*, OdDbObject* o) {
          as<OdDbPolyline>(o)->setPointAt(0, OdGePoint2d(5.5, -1.25));

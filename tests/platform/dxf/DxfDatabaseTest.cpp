@@ -4,6 +4,8 @@
 // edits gives the file's bytes - also when every object counts as modified.
 #include "DxfDatabaseSupport.h"
 
+#include <QtMath>
+
 
 using namespace dxfdb;
 
@@ -47,6 +49,8 @@ for e in doc.modelspace():
     t = e.dxftype()
     if t == 'LINE': g = [l(e.dxf.start), l(e.dxf.end), e.dxf.thickness, l(e.dxf.extrusion)]
     elif t == 'CIRCLE': g = [l(e.ocs().to_wcs(e.dxf.center)), e.dxf.radius, l(e.dxf.extrusion)]
+    elif t == 'ARC': g = [l(e.ocs().to_wcs(e.dxf.center)), e.dxf.radius, e.dxf.start_angle % 360, e.dxf.end_angle % 360,
+                          l(e.dxf.extrusion)]
     elif t == 'LWPOLYLINE': g = [[l(p) for p in e.vertices_in_wcs()], e.closed, [l(p) for p in e.get_points('seb')]]
     elif t == 'POLYLINE' and e.get_mode() == 'AcDb2dPolyline':
         ocs, z = e.ocs(), e.dxf.elevation.z
@@ -98,6 +102,9 @@ QJsonValue geometry(const OdDbObject* o) {
   if (auto* e = OdDbLine::cast(o).get())
     return QJsonArray{xyz(e->startPoint()), xyz(e->endPoint()), e->thickness(), xyz(e->normal())};
   if (auto* e = OdDbCircle::cast(o).get()) return QJsonArray{xyz(e->center()), e->radius(), xyz(e->normal())};
+  if (auto* e = OdDbArc::cast(o).get())
+    return QJsonArray{xyz(e->center()), e->radius(), qRadiansToDegrees(e->startAngle()), qRadiansToDegrees(e->endAngle()),
+                      xyz(e->normal())};
   if (auto* e = OdDbPolyline::cast(o).get()) {
     QJsonArray wcs, seb;
     for (unsigned i = 0; i < e->numVerts(); ++i) {
@@ -222,7 +229,7 @@ TEST_P(DxfDatabaseSample, ReadsWhatEzdxfReads) {
     }
     QJsonValue want = row[2];
     // A radius the platform refuses (zero or negative) keeps its default, 1.
-    if (row[1].toString() == QLatin1String("CIRCLE") && want.toArray()[1].toDouble() <= 0) {
+    if ((row[1].toString() == QLatin1String("CIRCLE") || row[1].toString() == QLatin1String("ARC")) && want.toArray()[1].toDouble() <= 0) {
       QJsonArray w = want.toArray();
       w[1] = 1.0;
       want = w;
