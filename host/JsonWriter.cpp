@@ -3,15 +3,15 @@
 #include <cmath>
 #include <cstring>
 
-void ZqJsonWriter::raw(const char* s, qsizetype n) { m_buffer.append(s, n); }
+void ZqJsonWriter::raw(const char* s, qsizetype n) { m_buffer.append(s, size_t(n)); }
 
 void ZqJsonWriter::maybeFlush() {
-  if (m_buffer.size() >= kFlushAt) flush();
+  if (qsizetype(m_buffer.size()) >= kFlushAt) flush();
 }
 
 void ZqJsonWriter::flush() {
-  if (m_buffer.isEmpty()) return;
-  m_out.write(m_buffer);
+  if (m_buffer.empty()) return;
+  m_out.write(m_buffer.data(), qint64(m_buffer.size()));
   m_buffer.clear();
 }
 
@@ -21,20 +21,20 @@ void ZqJsonWriter::separate() {
     return;
   }
   if (!m_first.empty()) {
-    if (!m_first.back()) m_buffer.append(',');
+    if (!m_first.back()) m_buffer.push_back(',');
     m_first.back() = false;
   }
 }
 
 ZqJsonWriter& ZqJsonWriter::beginObject() {
   separate();
-  m_buffer.append('{');
+  m_buffer.push_back('{');
   m_first.push_back(true);
   return *this;
 }
 
 ZqJsonWriter& ZqJsonWriter::endObject() {
-  m_buffer.append('}');
+  m_buffer.push_back('}');
   m_first.pop_back();
   maybeFlush();
   return *this;
@@ -42,13 +42,13 @@ ZqJsonWriter& ZqJsonWriter::endObject() {
 
 ZqJsonWriter& ZqJsonWriter::beginArray() {
   separate();
-  m_buffer.append('[');
+  m_buffer.push_back('[');
   m_first.push_back(true);
   return *this;
 }
 
 ZqJsonWriter& ZqJsonWriter::endArray() {
-  m_buffer.append(']');
+  m_buffer.push_back(']');
   m_first.pop_back();
   maybeFlush();
   return *this;
@@ -57,13 +57,13 @@ ZqJsonWriter& ZqJsonWriter::endArray() {
 namespace {
 // Appends text as the inside of a JSON string: runs without anything to
 // escape go in one piece.
-void appendEscaped(QByteArray& buffer, const char* s, qsizetype n) {
+void appendEscaped(std::string& buffer, const char* s, qsizetype n) {
   static const char hex[] = "0123456789abcdef";
   qsizetype run = 0;
   for (qsizetype i = 0; i < n; ++i) {
     const auto u = static_cast<unsigned char>(s[i]);
     if (u >= 0x20 && u != '"' && u != '\\') continue;
-    buffer.append(s + run, i - run);
+    buffer.append(s + run, size_t(i - run));
     run = i + 1;
     switch (u) {
       case '"': buffer.append("\\\"", 2); break;
@@ -79,20 +79,20 @@ void appendEscaped(QByteArray& buffer, const char* s, qsizetype n) {
       }
     }
   }
-  buffer.append(s + run, n - run);
+  buffer.append(s + run, size_t(n - run));
 }
 }  // namespace
 
 ZqJsonWriter& ZqJsonWriter::key(const char* latin1Key) {
   value(latin1Key);
-  m_buffer.append(':');
+  m_buffer.push_back(':');
   m_afterKey = true;
   return *this;
 }
 
 ZqJsonWriter& ZqJsonWriter::key(const QString& k) {
   value(k);
-  m_buffer.append(':');
+  m_buffer.push_back(':');
   m_afterKey = true;
   return *this;
 }
@@ -100,15 +100,15 @@ ZqJsonWriter& ZqJsonWriter::key(const QString& k) {
 ZqJsonWriter& ZqJsonWriter::value(const char* latin1) {
   // Keys and fixed words are ASCII: no conversion needed.
   separate();
-  m_buffer.append('"');
+  m_buffer.push_back('"');
   appendEscaped(m_buffer, latin1, qsizetype(std::strlen(latin1)));
-  m_buffer.append('"');
+  m_buffer.push_back('"');
   return *this;
 }
 
 ZqJsonWriter& ZqJsonWriter::value(const QString& s) {
   separate();
-  m_buffer.append('"');
+  m_buffer.push_back('"');
   // Most texts are ASCII: converted straight into a stack buffer.
   char small[256];
   const qsizetype n = s.size();
@@ -124,7 +124,7 @@ ZqJsonWriter& ZqJsonWriter::value(const QString& s) {
     const QByteArray utf8 = s.toUtf8();
     appendEscaped(m_buffer, utf8.constData(), utf8.size());
   }
-  m_buffer.append('"');
+  m_buffer.push_back('"');
   return *this;
 }
 

@@ -7,6 +7,7 @@
 #include <QIODevice>
 #include <QString>
 #include <QVariant>
+#include <string>
 #include <vector>
 
 class ZqJsonWriter {
@@ -42,7 +43,7 @@ class ZqJsonWriter {
   void maybeFlush();
 
   QIODevice& m_out;
-  QByteArray m_buffer;
+  std::string m_buffer;  // std::string: appending one character is cheap
   std::vector<bool> m_first;  // per open container: no member written yet
   bool m_afterKey = false;
 };

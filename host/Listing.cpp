@@ -25,15 +25,23 @@ ZqRowPicker::ZqRowPicker(const QStringList& names) {
   m_used = std::make_shared<QList<bool>>(m_names.size(), false);
 }
 
-bool ZqRowPicker::picks(const CZqPaletteRow& row) const {
+bool ZqRowPicker::picks(const CZqPaletteRow& row) const { return picks(row.categoryKey, row.nameKey, row.category, row.name); }
+
+CZqPropertiesWindowService::RowFilter ZqRowPicker::filter() const {
+  if (all()) return {};
+  return [this](const CZqString& ck, const CZqString& nk, const CZqString& c, const CZqString& n) { return picks(ck, nk, c, n); };
+}
+
+bool ZqRowPicker::picks(const CZqString& categoryKey, const CZqString& nameKey, const CZqString& category,
+                        const CZqString& name) const {
   if (m_names.isEmpty()) return true;
   auto is = [](const CZqString& key, const CZqString& shown, const QString& typed) {
     return key.qstring().compare(typed, Qt::CaseInsensitive) == 0 || shown.qstring().compare(typed, Qt::CaseInsensitive) == 0;
   };
   for (int i = 0; i < m_names.size(); ++i) {
     const Name& n = m_names[i];
-    if (!is(row.nameKey, row.name, n.name)) continue;
-    if (!n.category.isEmpty() && !is(row.categoryKey, row.category, n.category)) continue;
+    if (!is(nameKey, name, n.name)) continue;
+    if (!n.category.isEmpty() && !is(categoryKey, category, n.category)) continue;
     (*m_used)[i] = true;
     return true;
   }
@@ -93,10 +101,10 @@ void writeChoices(ZqJsonWriter& w, const CZqVariantCollection& c) {
   w.endArray();
 }
 
-std::vector<CZqPaletteRow> rowsOf(OdDbDatabase* db, const OdDbObjectId& id) {
+std::vector<CZqPaletteRow> rowsOf(OdDbDatabase* db, const OdDbObjectId& id, const ZqRowPicker& picker = {}) {
   CZqPropertiesWindowService service(db);
   service.SetSelection({id});
-  return service.Rows();
+  return service.Rows(kZqVisPalette, picker.filter());
 }
 
 QString handleOf(const OdDbObjectId& id) { return id.getHandle().ascii().qstring(); }
@@ -117,8 +125,7 @@ void zqPrintRows(QTextStream& out, OdDbDatabase* db, const OdDbObjectId& id, con
     else
       out << "? [" << handleOf(id) << "]\n";
   }
-  for (const CZqPaletteRow& r : rowsOf(db, id))
-    if (picker.picks(r)) out << "  " << r.ListLine() << "\n";
+  for (const CZqPaletteRow& r : rowsOf(db, id, picker)) out << "  " << r.ListLine() << "\n";
 }
 
 namespace {
@@ -157,8 +164,7 @@ void zqWriteListingJson(QIODevice& out, const QString& drawing, OdDbDatabase* db
     if (content.rows) {
       w.key("rows").beginObject();
       QHash<QString, int> seen;  // a key repeated within one object gets "#2", "#3", ...
-      for (const CZqPaletteRow& r : rowsOf(db, id)) {
-        if (!content.pick.picks(r)) continue;
+      for (const CZqPaletteRow& r : rowsOf(db, id, content.pick)) {
         QString key = zqRowKey(r);
         if (const int n = ++seen[key]; n > 1) key += QStringLiteral("#%1").arg(n);
         w.key(key).beginObject();

@@ -19,6 +19,9 @@ class ZqRowPicker {
   explicit ZqRowPicker(const QStringList& names);
   bool all() const { return m_names.isEmpty(); }
   bool picks(const CZqPaletteRow& row) const;
+  bool picks(const CZqString& categoryKey, const CZqString& nameKey, const CZqString& category, const CZqString& name) const;
+  // The service's filter for these rows (none when every row is wanted).
+  CZqPropertiesWindowService::RowFilter filter() const;
   // The names that no row of the listed objects matched (for a warning).
   QStringList unused() const;
 

@@ -44,8 +44,12 @@ void OdDbPolyline::removeVertexAt(unsigned index) {
 
 void OdDbPolyline::reset(bool reuse, unsigned numVerts) {
   assertWriteEnabled();
-  if (!reuse) m_verts.clear();
-  else if (numVerts < m_verts.length()) m_verts.setLogicalLength(numVerts);
+  if (!reuse) {
+    // Room for the vertices to come, so adding them one by one does not
+    // reallocate (reading a drawing adds a million polylines' worth).
+    m_verts.clear();
+    m_verts.setPhysicalLength(numVerts);
+  } else if (numVerts < m_verts.length()) m_verts.setLogicalLength(numVerts);
 }
 
 void OdDbPolyline::getPointAt(unsigned index, OdGePoint2d& pt) const { pt = vertex(index).pt; }

@@ -61,7 +61,9 @@ ObjectRows rowsOf(const OdDbObjectId& id, OdDb::OpenMode mode) {
 QString key(const CZqString& category, const CZqString& name) { return category.qstring() + QChar(0x1F) + name.qstring(); }
 }  // namespace
 
-std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBits) const {
+std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBits) const { return Rows(requiredBits, {}); }
+
+std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBits, const RowFilter& want) const {
   struct Entry {
     CZqPaletteRow row;
     int seen = 0;      // how many of the selected objects have the row so far
@@ -82,6 +84,7 @@ std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBit
       if ((vis & requiredBits) != requiredBits) continue;
       if (multi && (vis & kZqVisSingleOnly)) continue;
       if (objectNo == 1) {
+        if (want && !want(d->GetCategoryKey(), d->GetNameKey(), d->GetCategory(), d->GetName())) continue;
         const QString k = multi ? key(d->GetCategoryKey(), d->GetNameKey()) : QString();
         if (multi && index.contains(k)) continue;  // a name repeated within one object: the first serves
         if (multi) index.insert(k, entries.size());

@@ -7,6 +7,7 @@
 #include "DbDatabase.h"
 #include "CZqCloudBase.h"
 #include "CZqDocument.h"
+#include <functional>
 #include <vector>
 
 // Base of the host's commands: the command group, error handling around the
@@ -82,6 +83,11 @@ class ZQKERNEL_API CZqPropertiesWindowService {
   // palette bit; with more than one object, rows marked single-only are
   // left out. Rows are grouped by category in order of first appearance.
   std::vector<CZqPaletteRow> Rows(unsigned requiredBits = kZqVisPalette) const;
+  // Only the rows `want` accepts (given the row's keys and displayed
+  // texts): the others are neither read nor formatted.
+  using RowFilter = std::function<bool(const CZqString& categoryKey, const CZqString& nameKey, const CZqString& category,
+                                       const CZqString& name)>;
+  std::vector<CZqPaletteRow> Rows(unsigned requiredBits, const RowFilter& want) const;
   // Finds a row by its untranslated name or its displayed name,
   // case-insensitively; "Category/Name" picks one of two rows of the same
   // name. Null with a reason when none

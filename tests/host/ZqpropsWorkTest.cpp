@@ -218,6 +218,21 @@ TEST(ZqpropsSession, UndoOfAMultiObjectEditSavesTheOriginalBytesAndRedoTheEdit) 
   EXPECT_EQ(readAll(redone), readAll(direct));
 }
 
+TEST(ZqpropsSession, PropertiesCommandTakesTheProgramsSelectionAsPrevious) {
+  QTemporaryDir dir;
+  const QString out = dir.filePath("out.dxf");
+  const QString script = writeFile(dir, "p.scr", "-PROPERTIES\nP\n\nColor\n1\nX\n-PROPERTIES\nType=CIRCLE Layer=Out*\n\nColor\n2\nX\n"
+                                                 "SAVE " + out.toUtf8() + "\n");
+  const ProgramRun r = zqprops({kDemo, "--layer", "Axis", "--script", script});
+  ASSERT_EQ(r.code, 0) << r.err.toStdString();
+  const QJsonArray objects = parse(zqprops({out, "--json", "--rows", "Color"}))["objects"].toArray();
+  ASSERT_FALSE(objects.isEmpty());
+  for (const QJsonValue& o : objects) {
+    const QString want = o["layer"] == "Axis" ? "red" : o["type"] == "CIRCLE" ? "yellow" : "ByLayer";
+    EXPECT_EQ(o["rows"]["General/Color"]["value"].toString(), want) << o["handle"].toString().toStdString();
+  }
+}
+
 TEST(ZqpropsSession, UnsavedEditsAndScriptErrorsGiveTheirExitStatus) {
   QTemporaryDir dir;
   struct Case {
@@ -229,6 +244,8 @@ TEST(ZqpropsSession, UnsavedEditsAndScriptErrorsGiveTheirExitStatus) {
       {"-PROPERTIES\nALL\n\nColor\n2\nX\nQUIT\n", {}, 3, "zqprops: 1 unsaved edit; use -o or SAVE"},
       {"-PROPERTIES\nALL\n\nColor\n2\nLayer\nAxis\nX\n", {}, 3, "zqprops: 2 unsaved edits; use -o or SAVE"},
       {"-PROPERTIES\nALL\n\nColor\n2\nX\nU\n", {}, 0, ""},
+      // A refused edit changes nothing: no step to undo, nothing unsaved.
+      {"-PROPERTIES\nALL\n\nLinetype scale\n-1\nX\n", {}, 1, ""},
       {"; a comment\n\n   ; another\nLIST\nALL\n\nFROB\nLIST\n", {}, 2, "s.scr:7: Unknown command \"FROB\"."},
       {"FROB\n-PROPERTIES\nALL\n\nColor\n2\nX\nSAVE\n" + dir.filePath("k.dxf").toUtf8() + "\n", {"--keep-going"}, 2, "s.scr:1: Unknown command"},
       {"UNDO\nmany\n", {}, 2, "s.scr:2: UNDO needs a whole number"},

@@ -169,6 +169,9 @@ void lwpolylineFields(Fields<OdDbPolyline>& f) {
     }
   }
   if (reading) {
+    unsigned count = 0;
+    for (int i = first; i >= 0 && i <= last; ++i) count += r.at(i).code() == 10;
+    if (pl->numVerts() == 0) pl->reset(false, count);  // makes room for them
     unsigned n = 0;
     for (int i = first; i >= 0 && i <= last;) {
       OdGePoint2d pt(io.realAt(i), 0);

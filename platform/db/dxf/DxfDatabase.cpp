@@ -10,6 +10,7 @@
 #include "DbPlainClasses.h"
 #include "DbUndo.h"
 #include "DxfDrawing.h"
+#include "DxfInternal.h"
 
 #include <QFile>
 
@@ -81,8 +82,8 @@ OdDbDatabasePtr readDrawing(const QString& path, QString& error, QStringList* wa
     error = QStringLiteral("cannot open '%1': %2").arg(path, file.errorString());
     return {};
   }
-  const QByteArray bytes = file.readAll();
-  if (file.error() != QFileDevice::NoError) {
+  QByteArray bytes;
+  if (!detail::readWhole(file, bytes)) {
     error = QStringLiteral("cannot read '%1': %2").arg(path, file.errorString());
     return {};
   }

@@ -4,10 +4,90 @@
 // (DxfDrawingWrite.cpp). Not installed.
 #include "DxfMapping.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <unordered_set>
 #include <vector>
 
 namespace OdDxf::mapping {
+
+// A set of object stubs, open addressing with linear probing: a million
+// inserts while reading cost one array rather than a million list nodes.
+class StubSet {
+ public:
+  bool count(const OdDbStub* s) const {
+    if (!s) return m_hasNull;
+    if (m_slots.empty()) return false;
+    for (size_t i = slot(s);; i = (i + 1) & mask()) {
+      if (m_slots[i] == s) return true;
+      if (m_slots[i] == nullptr) return false;
+    }
+  }
+  void insert(const OdDbStub* s) {
+    if (!s) {
+      m_hasNull = true;
+      return;
+    }
+    if ((m_used + 1) * 4 > m_slots.size() * 3) rehash(std::max<size_t>(16, m_slots.size() * 2));
+    size_t free = SIZE_MAX;
+    size_t i = slot(s);
+    for (;; i = (i + 1) & mask()) {
+      if (m_slots[i] == s) return;
+      if (m_slots[i] == kGone && free == SIZE_MAX) free = i;
+      if (m_slots[i] == nullptr) break;
+    }
+    if (free == SIZE_MAX) {
+      free = i;
+      ++m_used;
+    }
+    m_slots[free] = s;
+    ++m_size;
+  }
+  template <typename It>
+  void insert(It b, It e) {
+    for (; b != e; ++b) insert(*b);
+  }
+  void erase(const OdDbStub* s) {
+    if (!s) {
+      m_hasNull = false;
+      return;
+    }
+    if (m_slots.empty()) return;
+    for (size_t i = slot(s);; i = (i + 1) & mask()) {
+      if (m_slots[i] == nullptr) return;
+      if (m_slots[i] == s) {
+        m_slots[i] = kGone;  // keeps the probe chains of later entries intact
+        --m_size;
+        return;
+      }
+    }
+  }
+  void reserve(size_t n) {
+    size_t cap = 16;
+    while (cap * 3 < n * 4 + 4) cap *= 2;
+    if (cap > m_slots.size()) rehash(cap);
+  }
+  size_t size() const { return m_size + (m_hasNull ? 1 : 0); }
+
+ private:
+  static inline const OdDbStub* const kGone = reinterpret_cast<const OdDbStub*>(alignof(std::max_align_t));
+  size_t mask() const { return m_slots.size() - 1; }
+  size_t slot(const OdDbStub* s) const {
+    return size_t((quint64(reinterpret_cast<quintptr>(s)) * 0x9E3779B97F4A7C15ull) >> 17) & mask();
+  }
+  void rehash(size_t cap) {
+    std::vector<const OdDbStub*> old(cap, nullptr);
+    old.swap(m_slots);
+    m_used = m_size = 0;
+    for (const OdDbStub* s : old)
+      if (s && s != kGone) insert(s);
+  }
+  std::vector<const OdDbStub*> m_slots;  // power-of-two size; null: empty
+  size_t m_used = 0;                      // slots holding a stub or kGone
+  size_t m_size = 0;
+  bool m_hasNull = false;
+};
 
 // What a database keeps of the file it was read from.
 class DrawingData : public OdRxObject {
@@ -18,7 +98,7 @@ class DrawingData : public OdRxObject {
   // records the platform does not model).
   std::vector<std::vector<OdDbStub*>> owners;
   // Objects that have records in the file.
-  std::unordered_set<const OdDbStub*> bound;
+  StubSet bound;
   // Objects the reader made for what the file lacks (a default layer, say);
   // they are never written.
   std::unordered_set<const OdDbStub*> implicit;

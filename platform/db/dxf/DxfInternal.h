@@ -2,6 +2,8 @@
 // Helpers shared by the reader, the writer and record editing. Not installed.
 #include "DxfFile.h"
 
+#include <QFile>
+
 #include <cstring>
 
 namespace OdDxf::detail {
@@ -16,6 +18,29 @@ inline QByteArrayView trimBlanks(QByteArrayView v) {
   while (b < e && isBlank(v[b])) ++b;
   while (e > b && isBlank(v[e - 1])) --e;
   return v.sliced(b, e - b);
+}
+
+// The whole content of an open file. A regular file is read into one buffer
+// of its exact size: reading in growing steps would hold up to twice a large
+// drawing while the last step is copied. False if reading failed.
+inline bool readWhole(QFile& file, QByteArray& out) {
+  const qint64 size = file.size();
+  if (size <= 0 || file.isSequential()) {
+    out = file.readAll();
+    return file.error() == QFileDevice::NoError;
+  }
+  out = QByteArray(qsizetype(size), Qt::Uninitialized);
+  qint64 done = 0;
+  while (done < size) {
+    const qint64 n = file.read(out.data() + done, size - done);
+    if (n < 0) return false;
+    if (n == 0) break;  // the file shrank while it was read
+    done += n;
+  }
+  if (done < size) out.truncate(qsizetype(done));
+  // Anything appended meanwhile is read too.
+  if (!file.atEnd()) out += file.readAll();
+  return file.error() == QFileDevice::NoError;
 }
 
 // Fixed binary size of a value type; -1 for NUL-terminated and length-prefixed ones.
@@ -83,9 +108,19 @@ struct Access {
   // An ASCII tag whose value line is complete, so another line may follow.
   static bool endsLine(const Tag& t) { return post(t) > 0 && end(t)[-1] == '\n'; }
 
-  static Record record(const Tag* b, const Tag* e, const QByteArray& source, const Format& f) {
+  // The record of the tags [b, e) of `all`: its tag list views that range of
+  // the shared block (a QList pointing into the middle of another's data), so
+  // nothing is copied until the record is edited, when the list detaches as
+  // any shared QList does.
+  static Record record(const QArrayDataPointer<Tag>& all, qsizetype b, qsizetype e, const QByteArray& source,
+                       const Format& f) {
     Record r;
-    r.m_tags = QList<Tag>(b, e);
+    if (e > b) {
+      QArrayDataPointer<Tag> range(all);  // one more reference to the block
+      range.ptr += b;
+      range.size = e - b;
+      r.m_tags = QList<Tag>(std::move(range));
+    }
     r.m_source = source;
     r.m_format = f;
     return r;

@@ -85,6 +85,30 @@ bool parseCode(const char* b, const char* e, int& code) {
   return true;
 }
 
+// Every tag of the file in one block. The records share it, each viewing its
+// own range (see Access::record), so a tag is stored once however many
+// records and copies of records there are.
+class TagBlock {
+ public:
+  void reserve(qsizetype n) { m_d = QArrayDataPointer<Tag>(QTypedArrayData<Tag>::allocate(n)); }
+  void push(const Tag& t) {
+    if (m_d.size == m_d.constAllocatedCapacity()) m_d->reallocate(m_d.size * 2 + 64, QArrayData::Grow);
+    m_d.ptr[m_d.size++] = t;
+  }
+  // Gives back the room reserved beyond the last tag (in place: the block
+  // only shrinks).
+  void squeeze() {
+    if (m_d.d && m_d.size < m_d.constAllocatedCapacity()) m_d->reallocate(qMax<qsizetype>(m_d.size, 1), QArrayData::KeepSize);
+  }
+  const Tag& back() const { return m_d.ptr[m_d.size - 1]; }
+  const Tag* data() const { return m_d.ptr; }
+  qsizetype size() const { return m_d.size; }
+  const QArrayDataPointer<Tag>& block() const { return m_d; }
+
+ private:
+  QArrayDataPointer<Tag> m_d;
+};
+
 class Reader {
  public:
   Reader(const QByteArray& data, QStringList* warnings)
@@ -137,7 +161,7 @@ class Reader {
   bool m_binary = false;
   bool m_shortCodes = false;
   qsizetype m_bomSize = 0;
-  std::vector<Tag> m_tags;
+  TagBlock m_tags;
   const char* m_trailer = nullptr;  // bytes after EOF; null if no EOF was read
   QString m_error;
   const char* m_lineAt = nullptr;
@@ -145,7 +169,7 @@ class Reader {
 };
 
 bool Reader::tokenizeAscii(const char* p) {
-  m_tags.reserve(size_t((m_end - p) / 8) + 16);
+  m_tags.reserve((m_end - p) / 8 + 16);
   qsizetype line = 1;
   while (p < m_end) {
     const char* codeLine = p;
@@ -179,7 +203,7 @@ bool Reader::tokenizeAscii(const char* p) {
       return fail(QStringLiteral("line %1").arg(line), QStringLiteral("group code line too long"));
     if (valueEnd - value > kMaxValueBytes)
       return fail(QStringLiteral("line %1").arg(line + 1), valueTooLong(code, valueEnd - value));
-    m_tags.push_back(Access::make(value, valueEnd - value, code, int(value - codeLine), post, false, false));
+    m_tags.push(Access::make(value, valueEnd - value, code, int(value - codeLine), post, false, false));
     p = vnl ? vnl + 1 : m_end;
     line += 2;
     if (code == 0 && m_tags.back().trimmed() == "EOF") {
@@ -207,7 +231,7 @@ bool Reader::tokenizeBinary() {
   else
     return fail(m_base + p, QStringLiteral("not a DXF file: group code 0 or 999 expected at the start"));
 
-  m_tags.reserve(size_t(size / 6) + 16);
+  m_tags.reserve(size / 6 + 16);
   while (p < size) {
     const qsizetype start = p;
     int code;
@@ -245,7 +269,7 @@ bool Reader::tokenizeBinary() {
                                   .arg(code)
                                   .arg(n)
                                   .arg(size - p));
-    m_tags.push_back(Access::make(m_base + p, n, code, int(p - start), post, true, false));
+    m_tags.push(Access::make(m_base + p, n, code, int(p - start), post, true, false));
     p += n + post;
     if (code == 0 && m_tags.back().raw() == "EOF") {
       m_trailer = m_base + p;
@@ -256,8 +280,9 @@ bool Reader::tokenizeBinary() {
 }
 
 bool Reader::build(File& out) {
+  m_tags.squeeze();
   const Tag* T = m_tags.data();
-  const qsizetype n = qsizetype(m_tags.size());
+  const qsizetype n = m_tags.size();
 
   // Tags before the first group 0 may only be comments.
   qsizetype i = 0;
@@ -304,7 +329,7 @@ bool Reader::build(File& out) {
   }
 
   const QByteArray& src = m_data;
-  auto record = [&](qsizetype b, qsizetype e) { return Access::record(T + b, T + e, src, f); };
+  auto record = [&](qsizetype b, qsizetype e) { return Access::record(m_tags.block(), b, e, src, f); };
   auto countNonComments = [&](qsizetype b, qsizetype e) {
     qsizetype c = 0;
     for (qsizetype k = b; k < e; ++k) c += T[k].code() != 999;
@@ -428,8 +453,8 @@ bool File::load(const QString& path, File& out, QString& error, QStringList* war
     error = QStringLiteral("cannot open '%1': %2").arg(path, file.errorString());
     return false;
   }
-  const QByteArray bytes = file.readAll();
-  if (file.error() != QFileDevice::NoError) {
+  QByteArray bytes;
+  if (!detail::readWhole(file, bytes)) {
     error = QStringLiteral("cannot read '%1': %2").arg(path, file.errorString());
     return false;
   }

@@ -89,11 +89,40 @@ class Writer {
   bool m_needEol = false;
 };
 
+// Whether the file would be written as the very bytes it was read from:
+// every tag unedited and right after the one before it in the buffer, from
+// the preamble to the trailer. Then writing shares the buffer instead of
+// copying it (a drawing of a million objects saved unedited).
+bool isAsRead(const QByteArray& data, const QByteArray& preamble, const Record& prologue,
+              const QList<Section>& sections, const Record& eof, const QByteArray& trailer) {
+  if (data.isEmpty() || !data.startsWith(preamble)) return false;
+  const char* next = data.constData() + preamble.size();
+  auto follows = [&](const Record& r) {
+    for (const Tag& t : r) {
+      if (t.isEdited() || Access::begin(t) != next) return false;
+      next = Access::end(t);
+    }
+    return true;
+  };
+  if (!follows(prologue)) return false;
+  for (const Section& s : sections) {
+    if (!follows(s.head)) return false;
+    for (const Record& r : s.records)
+      if (!follows(r)) return false;
+    if (!follows(s.tail)) return false;
+  }
+  if (!follows(eof)) return false;
+  const char* end = data.constData() + data.size();
+  return end - next == trailer.size() && QByteArrayView(next, end - next) == trailer;
+}
+
 }  // namespace
 
 QByteArray File::write(Form form, QStringList* problems) const {
   Format target = m_format;
   if (form != Form::AsRead) target.binary = form == Form::Binary;
+  if (target.binary == m_format.binary && isAsRead(m_data, m_preamble, m_prologue, m_sections, m_eof, m_trailer))
+    return m_data;
   QByteArray out;
   out.reserve(m_data.size() + m_data.size() / (target.binary == m_format.binary ? 64 : 4) + 1024);
   Writer w(out, target, problems);
