@@ -75,7 +75,7 @@ class TextSamplesTest : public TextTest, public ::testing::WithParamInterface<co
 TEST_P(TextSamplesTest, RowsAgreeWithEzdxf) {
   const QString path = QString(ZQ_SAMPLES_DIR) + "/" + GetParam();
   int code = -1;
-  const QString out = zqRunPython(
+  const QMap<QString, QStringList> reference = zqPythonRowsByHandle(
       "import sys, math, ezdxf\n"
       "doc = ezdxf.readfile(sys.argv[1])\n"
       "for e in doc.modelspace().query('TEXT'):\n"
@@ -87,12 +87,7 @@ TEST_P(TextSamplesTest, RowsAgreeWithEzdxf) {
       "          repr(e.dxf.get('rotation', 0.0)), repr(e.dxf.get('oblique', 0.0)), repr(e.dxf.get('thickness', 0.0)),\n"
       "          e.dxf.text.encode('unicode_escape').decode('ascii'))\n",
       {path}, &code);
-  ASSERT_EQ(code, 0) << out.toStdString();
-  QMap<QString, QStringList> reference;
-  for (const QString& line : out.split('\n', Qt::SkipEmptyParts)) {
-    const QStringList f = line.split(' ');
-    reference.insert(f[0].toUpper(), f);
-  }
+  ASSERT_EQ(code, 0);
   ASSERT_FALSE(reference.isEmpty());
   QString error;
   db = OdDxf::readDrawing(path, error);

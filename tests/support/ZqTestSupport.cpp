@@ -148,3 +148,12 @@ QString zqRunPython(const QString& script, const QStringList& args, int* exitCod
   if (exitCode) *exitCode = p.exitCode();
   return QString::fromUtf8(p.readAllStandardOutput());
 }
+
+QMap<QString, QStringList> zqPythonRowsByHandle(const QString& script, const QStringList& args, int* exitCode) {
+  QMap<QString, QStringList> rows;
+  for (const QString& line : zqRunPython(script, args, exitCode).split('\n', Qt::SkipEmptyParts)) {
+    const QStringList f = line.split(' ');
+    rows.insert(f[0].toUpper(), f);
+  }
+  return rows;
+}

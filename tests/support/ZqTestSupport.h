@@ -9,6 +9,7 @@
 #include "ZQCommandsBase.h"
 #include "ZqServices.h"
 #include "KVKernel.h"
+#include <QMap>
 #include <QString>
 #include <memory>
 #include <vector>
@@ -78,3 +79,7 @@ class ZqRecordingObserver : public OdRxSystemObserver {
 // Runs /usr/bin/python3 with a script; returns its standard output, and the
 // exit code through *exitCode.
 QString zqRunPython(const QString& script, const QStringList& args = {}, int* exitCode = nullptr);
+// Runs a script that prints one line per object, its handle first and its
+// fields separated by blanks; returns the lines' fields keyed by the handle
+// in upper case, and the exit code through *exitCode.
+QMap<QString, QStringList> zqPythonRowsByHandle(const QString& script, const QStringList& args, int* exitCode);
