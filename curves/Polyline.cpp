@@ -28,23 +28,7 @@ P* writableVertex(const OdDbObject* object, const CZqVariant& index, unsigned& i
   return pl && i < pl->numVerts() ? pl : nullptr;
 }
 
-unsigned segmentCount(const P* pl) {
-  const unsigned n = pl->numVerts();
-  return pl->isClosed() ? n : (n > 0 ? n - 1 : 0);
-}
-
 // --- Vertex ------------------------------------------------------------------
-
-// One choice per vertex, numbered from 1; the indexed vertex is the current one.
-CZqVariant getVertex(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& index) {
-  const P* pl = ZqReadable<P>(object);
-  return pl ? ZqVertexChoices(pl->numVerts(), index) : CZqVariant();
-}
-
-// Choosing a vertex changes nothing in the drawing.
-int setVertex(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&, const CZqVariant&) {
-  return ZqWritable<P>(object) ? kZqSetApplied : kZqSetRefused;
-}
 
 template <int Axis>
 CZqVariant getVertexCoordinate(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& index) {
@@ -109,7 +93,7 @@ int setSegmentWidth(const OdDbObject* object, const CZqPropertyDescription& desc
   const double constant = pl->getConstantWidth();
   if (constant != 0) {
     pl->setConstantWidth(0);
-    const unsigned segments = segmentCount(pl);
+    const unsigned segments = ZqSegmentCount(pl);
     if (segments == 0) return kZqSetApplied;
     for (unsigned j = 0; j < segments; ++j)
       if (j != i) pl->setWidthsAt(j, constant, constant);
@@ -128,7 +112,7 @@ CZqVariant getGlobalWidth(const OdDbObject* object, const CZqPropertyDescription
   double first = 0, firstEnd = 0;
   pl->getWidthsAt(0, first, firstEnd);
   if (first != firstEnd) return CZqVariant();
-  for (unsigned i = 1; i < segmentCount(pl); ++i) {
+  for (unsigned i = 1; i < ZqSegmentCount(pl); ++i) {
     double s = 0, e = 0;
     pl->getWidthsAt(i, s, e);
     if (s != first || e != first) return CZqVariant();
@@ -318,7 +302,7 @@ constexpr ZqLimit kCloudRadius = ZqMessage(kZqPositive, QT_TRANSLATE_NOOP("error
 const ZqRow kRows[] = {
 //  category       name                                                         type            identifier                     read-only          get                      set                      icon                           visibility     limit
   {ZQ_GENERAL,    QT_TRANSLATE_NOOP("property_types", "Thickness"),            kZqDouble,      nullptr,                       kZqEditable,       getThickness,            setThickness,            nullptr,                       kVisOr4},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex"),               kZqCollection,  ZqGuid::kVertexGUID,           kZqEditable,       getVertex,               setVertex,               nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex"),               kZqCollection,  ZqGuid::kVertexGUID,           kZqEditable,       ZqGetVertexRow<P>,       ZqSetVertexRow<P>,       nullptr,                       kVisXor8},
   {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex X"),             kZqDouble,      ZqGuid::kVertexXGUID,          isVertexReadOnly,  getVertexCoordinate<0>,  setVertexCoordinate<0>,  nullptr,                       kVisXor8},
   {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex Y"),             kZqDouble,      ZqGuid::kVertexYGUID,          isVertexReadOnly,  getVertexCoordinate<1>,  setVertexCoordinate<1>,  nullptr,                       kVisXor8},
   {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Start segment width"),  kZqUntyped,     ZqGuid::kVertexStartWidthGUID, kZqEditable,       getSegmentWidth<true>,   setSegmentWidth<true>,   "Geometry_StartSegmentWidth",  kVisXor8,      kWidth},

@@ -28,21 +28,6 @@ P* writableVertex(const OdDbObject* object, const CZqVariant& index, unsigned& i
   return pl && i < pl->numVerts() ? pl : nullptr;
 }
 
-unsigned segmentCount(const P* pl) {
-  const unsigned n = pl->numVerts();
-  return pl->isClosed() ? n : (n > 0 ? n - 1 : 0);
-}
-
-CZqVariant getVertex(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& index) {
-  const P* pl = ZqReadable<P>(object);
-  return pl ? ZqVertexChoices(pl->numVerts(), index) : CZqVariant();
-}
-
-// Choosing a vertex changes nothing in the drawing.
-int setVertex(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&, const CZqVariant&) {
-  return ZqWritable<P>(object) ? kZqSetApplied : kZqSetRefused;
-}
-
 template <int Axis>
 CZqVariant getVertexCoordinate(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& index) {
   unsigned i = 0;
@@ -98,7 +83,7 @@ int setSegmentWidth(const OdDbObject* object, const CZqPropertyDescription& desc
 
 // The width every segment has at both ends; empty when they differ.
 bool uniformWidth(const P* pl, double& width) {
-  const unsigned segments = segmentCount(pl);
+  const unsigned segments = ZqSegmentCount(pl);
   if (pl->numVerts() == 0) return false;
   width = pl->vertexAt(0)->startWidth();
   for (unsigned i = 0; i < std::max(segments, 1u); ++i) {
@@ -193,7 +178,7 @@ constexpr auto isReadOnly = kZqReadOnly;
 const ZqRow kRows[] = {
 //  category       name                                                         type            identifier                     read-only          get                      set                      icon                           visibility     limit
   {ZQ_GENERAL,    QT_TRANSLATE_NOOP("property_types", "Thickness"),            kZqDouble,      nullptr,                       kZqEditable,       getThickness,            setThickness,            nullptr,                       kVisOr4},
-  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex"),               kZqCollection,  ZqGuid::kVertexGUID,           kZqEditable,       getVertex,               setVertex,               nullptr,                       kVisXor8},
+  {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex"),               kZqCollection,  ZqGuid::kVertexGUID,           kZqEditable,       ZqGetVertexRow<P>,       ZqSetVertexRow<P>,       nullptr,                       kVisXor8},
   {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex X"),             kZqDouble,      ZqGuid::kVertexXGUID,          isVertexReadOnly,  getVertexCoordinate<0>,  setVertexCoordinate<0>,  nullptr,                       kVisXor8},
   {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Vertex Y"),             kZqDouble,      ZqGuid::kVertexYGUID,          isVertexReadOnly,  getVertexCoordinate<1>,  setVertexCoordinate<1>,  nullptr,                       kVisXor8},
   {ZQ_GEOMETRY,   QT_TRANSLATE_NOOP("property_types", "Start segment width"),  kZqUntyped,     ZqGuid::kVertexStartWidthGUID, kZqEditable,       getSegmentWidth<true>,   setSegmentWidth<true>,   "Geometry_StartSegmentWidth",  kVisXor8,      kZqNonNegative},
@@ -231,7 +216,7 @@ void CZq2dPolylineInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoCo
     for (unsigned i = 0; i < pl->numVerts(); ++i) {
       if (!context->CheckCounter()) return;
       context->PrintPoint(QCoreApplication::translate("info_items", "Location %1").arg(i), pl->vertexPosition(i));
-      if (!uniform && i < segmentCount(pl)) {
+      if (!uniform && i < ZqSegmentCount(pl)) {
         context->PrintWidth(QCoreApplication::translate("property_types", "Start segment width"), pl->vertexAt(i)->startWidth());
         context->PrintWidth(QCoreApplication::translate("property_types", "End segment width"), pl->vertexAt(i)->endWidth());
       }

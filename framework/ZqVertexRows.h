@@ -22,3 +22,23 @@ int ZqRefuseVertex(unsigned index, unsigned count);
 // Z axis; the drawing's UCS when no document is open): only then are its
 // vertices edited as X and Y.
 bool ZqIsInViewPlane(const OdDbObject* object, const OdGeVector3d& normal);
+
+// The "Vertex" row of a curve class C with numVerts(): the getter lists the
+// vertices; choosing one changes nothing in the drawing.
+template <class C>
+CZqVariant ZqGetVertexRow(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& index) {
+  const C* curve = ZqReadable<C>(object);
+  return curve ? ZqVertexChoices(curve->numVerts(), index) : CZqVariant();
+}
+template <class C>
+int ZqSetVertexRow(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&, const CZqVariant&) {
+  return ZqWritable<C>(object) ? kZqSetApplied : kZqSetRefused;
+}
+
+// The segments of a polyline of class C: one per vertex when closed, one
+// fewer when open.
+template <class C>
+unsigned ZqSegmentCount(const C* curve) {
+  const unsigned n = curve->numVerts();
+  return curve->isClosed() ? n : (n > 0 ? n - 1 : 0);
+}
