@@ -25,10 +25,13 @@ QByteArray polylineDrawing(int n) {
   return d;
 }
 
-void BM_SaveAfterVertexEdit(benchmark::State& state) {
+// Saves a drawing of n vertices after moving its middle vertex, once per
+// iteration: the edit is outside the timing, the save inside.
+template <class Edit>
+void saveAfterEdit(benchmark::State& state, const QByteArray& drawing, Edit edit) {
   const int n = int(state.range(0));
   QString error;
-  OdDbDatabasePtr db = OdDxf::readDrawing(polylineDrawing(n), error);
+  OdDbDatabasePtr db = OdDxf::readDrawing(drawing, error);
   if (!db) {
     state.SkipWithError(error.toStdString().c_str());
     return;
@@ -39,7 +42,7 @@ void BM_SaveAfterVertexEdit(benchmark::State& state) {
     state.PauseTiming();
     {
       OdDbObjectPtr obj = id.openObject(OdDb::kForWrite);
-      static_cast<OdDbPolyline*>(obj.get())->setPointAt(unsigned(n / 2), OdGePoint2d(0.25, y += 1));
+      edit(obj.get(), unsigned(n / 2), y += 1);
     }
     state.ResumeTiming();
     const QByteArray out = OdDxf::writeDrawing(db.get(), &error);
@@ -48,6 +51,12 @@ void BM_SaveAfterVertexEdit(benchmark::State& state) {
   }
   state.SetComplexityN(n);
   state.counters["vertices"] = benchmark::Counter(double(n) * double(state.iterations()), benchmark::Counter::kIsRate);
+}
+
+void BM_SaveAfterVertexEdit(benchmark::State& state) {
+  saveAfterEdit(state, polylineDrawing(int(state.range(0))), [](OdDbObject* obj, unsigned i, double y) {
+    static_cast<OdDbPolyline*>(obj)->setPointAt(i, OdGePoint2d(0.25, y));
+  });
 }
 
 // The same with a 2D polyline: a POLYLINE record, one VERTEX record per
@@ -66,28 +75,9 @@ QByteArray polyline2dDrawing(int n) {
 }
 
 void BM_SaveAfter2dVertexEdit(benchmark::State& state) {
-  const int n = int(state.range(0));
-  QString error;
-  OdDbDatabasePtr db = OdDxf::readDrawing(polyline2dDrawing(n), error);
-  if (!db) {
-    state.SkipWithError(error.toStdString().c_str());
-    return;
-  }
-  const OdDbObjectId id = db->getOdDbObjectId(OdDbHandle(quint64(0x2A)));
-  double y = 0;
-  for (auto _ : state) {
-    state.PauseTiming();
-    {
-      OdDbObjectPtr obj = id.openObject(OdDb::kForWrite);
-      static_cast<OdDb2dPolyline*>(obj.get())->vertexForWrite(unsigned(n / 2))->setPosition(OdGePoint3d(0.25, y += 1, 0));
-    }
-    state.ResumeTiming();
-    const QByteArray out = OdDxf::writeDrawing(db.get(), &error);
-    if (out.isEmpty()) state.SkipWithError(error.toStdString().c_str());
-    benchmark::DoNotOptimize(out.data());
-  }
-  state.SetComplexityN(n);
-  state.counters["vertices"] = benchmark::Counter(double(n) * double(state.iterations()), benchmark::Counter::kIsRate);
+  saveAfterEdit(state, polyline2dDrawing(int(state.range(0))), [](OdDbObject* obj, unsigned i, double y) {
+    static_cast<OdDb2dPolyline*>(obj)->vertexForWrite(i)->setPosition(OdGePoint3d(0.25, y, 0));
+  });
 }
 
 void BM_SetXData(benchmark::State& state) {
