@@ -6,7 +6,8 @@
 // followed by an empty answer, which saves to the session's output file.
 //
 // What must hold: the script ends (the reader cancels a command when the
-// lines run out); every SAVE goes through (an edit the drawing cannot keep is
+// lines run out, and a wrong line is reported and passed over); every SAVE
+// goes through (an edit the drawing cannot keep is
 // refused when it is made, and the scratch folder takes any file); and what
 // it saved loads again.
 #include "ZqFuzzSupport.h"
@@ -42,8 +43,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   QString outText, errText;
   QTextStream out(&outText), err(&errText);
   ZqScriptIO io(lines, out, true);
-  ZqSession session(db.get(), ZqSessionOptions{scratch.filePath(QStringLiteral("in.dxf")), output, false}, out, err);
-  if (!session.run(io, [&] { return io.atEnd(); })) zqfuzz::fail("a save failed:", errText);
+  ZqSessionOptions options;
+  options.inputPath = scratch.filePath(QStringLiteral("in.dxf"));
+  options.outputPath = output;
+  options.keepGoing = true;  // a wrong line must not hide what the lines after it do
+  ZqSession session(db.get(), options, out, err);
+  session.run(io, [&] { return io.atEnd(); });
+  if (session.saveFailed()) zqfuzz::fail("a save failed:", errText);
   if (session.saved()) {
     if (!OdDxf::readDrawing(output, error)) zqfuzz::fail("a drawing the script saved does not load:", error);
   }

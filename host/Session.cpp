@@ -211,11 +211,13 @@ bool ZqSession::save(OdEdUserIO& io) {
   if (path.isEmpty()) path = fallback;
   if (path.isEmpty()) {
     m_err << QCoreApplication::translate("zqprops", "zqprops: SAVE needs a file name (or -o).") << "\n";
+    m_saveFailed = true;
     return false;
   }
   QString error;
   if (!zqSaveDrawing(m_db, m_options, path, error)) {
     m_err << "zqprops: " << error << "\n";
+    m_saveFailed = true;
     return false;
   }
   m_saved = true;

@@ -70,6 +70,8 @@ class ZqSession {
   // unknown command in a script).
   bool run(OdEdUserIO& io, const std::function<bool()>& atEnd);
   bool saved() const { return m_saved; }
+  // A SAVE or SAVEAS of this session did not write its file.
+  bool saveFailed() const { return m_saveFailed; }
   // The user answered No when offered to save the unsaved edits.
   bool declinedToSave() const { return m_declined; }
 
@@ -87,6 +89,7 @@ class ZqSession {
   QTextStream& m_out;
   QTextStream& m_err;
   bool m_saved = false;
+  bool m_saveFailed = false;
   bool m_declined = false;
 };
 
