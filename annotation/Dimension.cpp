@@ -1,4 +1,5 @@
 #include "Dimension.h"
+#include "ZqAnnotativeRows.h"
 #include "ZqCallbacks.h"
 #include "ZqInfoFrame.h"
 #include "DbDimension.h"
@@ -547,18 +548,7 @@ bool isTolerancePrecisionReadOnly(const OdDbObject* object, const CZqPropertyDes
   return dim && toleranceDisplayOf(dim) == 0;
 }
 
-bool isAnnotative(const OdDbObject* object) {
-  const D* dim = ZqReadable<D>(object);
-  if (!dim) return false;
-  const OdResBufPtr data = dim->xData(OdString("AcadAnnotative"));
-  if (!data) return false;
-  // {"AnnotativeData" { 1070 1 1070 1 }}: the second integer says annotative.
-  int seen = 0;
-  for (const OdResBuf* p = data.get(); p; p = p->next())
-    if (p->restype() == OdResBuf::kDxfXdInteger16 && ++seen == 2) return p->getInt64() != 0;
-  return false;
-}
-bool isScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription&) { return isAnnotative(object); }
+bool isScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription&) { return ZqIsAnnotative(object); }
 
 // Inspection: kept as the dimension's "ACAD_DSTYLE_DIMINSPECT" extended
 // data - the flags (on: bit 8; the frame shape in the low three bits),
@@ -672,20 +662,6 @@ int matchDimension(const OdDbEntity* source, OdDbObject* target) {
 int setMatch(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {
   if (!ZqWritable<OdDbEntity>(object)) return kZqSetRefused;
   return ZqMatchFrom(object, value, &matchDimension);
-}
-
-// Annotative (dynamic) row.
-CZqVariant getAnnotative(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
-  if (!ZqReadable<D>(object)) return CZqVariant();
-  return ZqEnumeration(kZqYesNo, isAnnotative(object) ? 0 : 1);
-}
-CZqVariant getAnnotationScale(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
-  const D* dim = ZqReadable<D>(object);
-  return dim ? ZqDouble(dim->dimscale()) : CZqVariant();
-}
-bool isAnnotationScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription& description) {
-  if (description.GetNameKey().qstring() != QLatin1String("Annotative Scale")) return false;
-  return !isAnnotative(object);
 }
 
 // Arrowheads: the standard ones, the drawing's own blocks, "Custom arrow".
@@ -938,22 +914,12 @@ const ZqRow kTwoArrowRows[] = {
 
 // The dynamic part of every dimension: the two record rows get their
 // editors, then the annotative rows.
-const ZqRow kAnnotativeRow = {ZQ_MISC, PT("Annotative"), kZqUntyped, nullptr, kZqReadOnly, getAnnotative, nullptr, "Misc_annotative"};
-const ZqRow kAnnotationScaleRow = {ZQ_MISC, PT("Annotative Scale"), kZqUntyped, ZqGuid::kLineEditToolButtonGUID,
-                                   isAnnotationScaleReadOnly, getAnnotationScale, nullptr, "Misc_annotative_scale",
-                                   kVisKeep, kZqAny, "Misc"};
-
 void dynamicRows(const OdDbObject* object, CZqPropertiesContainer* container) {
   if (CZqPropertyDescription* style = container->GetByName(CZqString("Dim style"), CZqString("Misc")))
     style->SetType(CZqCustomPropertyType(kZqUntyped, CZqString(ZqGuid::kDimStyleGUID)));
   if (CZqPropertyDescription* text = container->GetByName(CZqString("TextStyle"), CZqString("Text")))
     text->SetType(CZqCustomPropertyType(kZqUntyped, CZqString(ZqGuid::kTextStyleGUID)));
-  container->AddDynamic(ZqBuildDynamicDescription(kAnnotativeRow));
-  if (isAnnotative(object)) {
-    CZqCustomPropertyDescription* scale = ZqBuildDynamicDescription(kAnnotationScaleRow);
-    scale->SetVisibility(scale->GetVisibility() ^ 8);
-    container->AddDynamic(scale);
-  }
+  ZqAddAnnotativeRows(object, container, ZQ_MISC, "CZqDimensionPE");
 }
 
 }  // namespace

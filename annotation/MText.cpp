@@ -1,5 +1,6 @@
 #include "MText.h"
 #include "Text.h"
+#include "ZqAnnotativeRows.h"
 #include "ZqCallbacks.h"
 #include "ZqInfoFrame.h"
 #include "DbMText.h"
@@ -235,6 +236,11 @@ int hexAt(const QString& s, qsizetype i, int count) {
   return ok ? v : -1;
 }
 
+// "Annotative" for every multiline text; its scale for an annotative one.
+void annotativeRows(const OdDbObject* object, CZqPropertiesContainer* container) {
+  ZqAddAnnotativeRows(object, container, ZQ_TEXT, "CZqMTextPE");
+}
+
 }  // namespace
 
 QString ZqMTextPlainText(const QString& s) {
@@ -303,7 +309,7 @@ QString ZqMTextPlainText(const QString& s) {
   return out;
 }
 
-ZQ_DEFINE_PROVIDER(CZqMTextPE, QT_TRANSLATE_NOOP("entity_types", "MText"), kRows)
+ZQ_DEFINE_PROVIDER(CZqMTextPE, QT_TRANSLATE_NOOP("entity_types", "MText"), kRows, {}, &annotativeRows)
 
 void CZqMTextInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) {
   ZqPrintInfoFrame<M>(this, object, context, [&](const M* m) {

@@ -1,5 +1,7 @@
 #include "Text.h"
+#include "ZqAnnotativeRows.h"
 #include "ZqCallbacks.h"
+#include "CZqObjectAnnotationContext.h"
 #include "ZqInfoFrame.h"
 #include "DbText.h"
 #include "DbMText.h"
@@ -84,6 +86,10 @@ int setJustify(const OdDbObject* object, const CZqPropertyDescription& descripti
     return ZqRefuseWith(ZqChoicesSentence(description.GetName().qstring(), kJustifyChoices));
   const Justification& next = kJustifications[tag];
   if (next.horizontal == text->horizontalMode() && next.vertical == text->verticalMode()) return kZqSetApplied;
+  // Aligned and fitted text takes its size from its two points, which an
+  // annotative text (sized per scale) cannot.
+  if ((tag == kAligned || tag == kFit) && ZqIsAnnotative(text))
+    return ZqRefuseWith(QCoreApplication::translate("errors", "A text justified Aligned or Fit cannot be annotative."));
   const int old = justificationOf(text);
   // Aligned and fitted text is stretched between its two points; it comes
   // out level and unstretched.
@@ -113,7 +119,9 @@ int setJustify(const OdDbObject* object, const CZqPropertyDescription& descripti
 // Aligned and fitted text takes its rotation from its two points.
 bool isRotationReadOnly(const OdDbObject* object, const CZqPropertyDescription&) {
   const T* text = ZqReadable<T>(object);
-  return text && isAlignedOrFit(text);
+  if (!text) return false;
+  bool followsSheet = false;
+  return isAlignedOrFit(text) || (ZqIsAnnotative(text, &followsSheet) && followsSheet);
 }
 
 // A left-justified text does not use its alignment point.
@@ -190,6 +198,8 @@ int setSize(const OdDbObject* object, const CZqPropertyDescription& description,
 CZqVariant getRotation(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
   const T* text = ZqReadable<T>(object);
   if (!text) return CZqVariant();
+  bool followsSheet = false;
+  if (ZqIsAnnotative(text, &followsSheet) && followsSheet) return ZqDouble(0.0);
   const double r = text->rotation();
   return ZqDouble(r < 0 ? r + Oda2PI : r);
 }
@@ -235,6 +245,7 @@ int setStyle(const OdDbObject* object, const CZqPropertyDescription&, const CZqV
   if (xScale > kZqZeroTolerance && std::isfinite(xScale)) text->setWidthFactor(xScale);
   text->mirrorInY(flags & kStyleUpsideDown);
   text->mirrorInX(flags & kStyleBackward);
+  CZqObjectAnnotationContext::UpdateTextFromTextStyle(text);
   return kZqSetApplied;
 }
 
@@ -292,9 +303,81 @@ const ZqRow kRows[] = {
   {ZQ_MATCHPROP, "MATCHPROP_Text",                                        kZqUntyped, nullptr,                  kZqEditable,          ZqGetOwnId,       setMatch,         "",                      kVisMatchProp},
 };
 
+// --- Annotative rows ---------------------------------------------------------------
+
+// The height on the sheet: the model height times the current scale.
+CZqVariant getSheetHeight(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
+  const T* text = ZqReadable<T>(object);
+  if (!text) return CZqVariant();
+  return ZqDouble(text->height() * CZqObjectAnnotationContext(text->objectId()).CurrentFactor());
+}
+int setSheetHeight(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
+                   const CZqVariant&) {
+  T* text = ZqWritable<T>(object);
+  if (!text || value.GetType() != CZqVariant::kVtDouble) return kZqSetRefused;
+  double sheet = value.GetDouble();
+  if (ZqIsZero(sheet)) return kZqSetApplied;  // clearing the field keeps the height
+  if (const int refused = ZqCheckLimit(description, sheet)) return refused;
+  const double model = sheet / CZqObjectAnnotationContext(text->objectId()).CurrentFactor();
+  return CZqObjectAnnotationContext::UpdateAnnotativeTextHeight(text, model) ? kZqSetApplied : kZqSetRefused;
+}
+
+CZqVariant getMatchOrientation(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
+  const T* text = ZqReadable<T>(object);
+  if (!text) return CZqVariant();
+  bool followsSheet = false;
+  ZqIsAnnotative(text, &followsSheet);
+  return ZqEnumeration(kZqYesNo, followsSheet ? 0 : 1);
+}
+int setMatchOrientation(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {
+  T* text = ZqWritable<T>(object);
+  int32_t tag = 0;
+  if (!text || !ZqChosenTag(value, tag) || (tag != 0 && tag != 1)) return kZqSetRefused;
+  QString why;
+  return CZqObjectAnnotationContext::SetMatchOrientation(text, tag == 0, &why) ? kZqSetApplied : ZqRefuseWith(why);
+}
+
+const ZqRow kSheetHeightRow = {ZQ_TEXT, QT_TRANSLATE_NOOP("property_types", "Sheet text height"), kZqUntyped, nullptr,
+                               kZqEditable, getSheetHeight, setSheetHeight, "Text_sheet_text_height", kVisKeep, kSize, "Text"};
+const ZqRow kMatchOrientationRow = {ZQ_TEXT, QT_TRANSLATE_NOOP("property_types", "Match orientation to sheet"), kZqUntyped,
+                                    nullptr, kZqEditable, getMatchOrientation, setMatchOrientation, "Misc_match_orientation",
+                                    kVisKeep, kZqAny, "Misc"};
+const ZqRow kEditScalesRow = {ZQ_TEXT, QT_TRANSLATE_NOOP("property_types", "Edit annotation scales"), kZqUntyped, nullptr,
+                              kZqReadOnly, ZqGetAnnotationScales, nullptr, "Misc_annotative_scale", kVisEdition, kZqAny, "Misc"};
+
+// The shared "Height" row is "Model text height" (read-only: the sheet
+// height is what a user edits) while the text is annotative, and "Height"
+// again for any other text.
+void nameHeightRow(CZqPropertiesContainer* container, bool annotative) {
+  CZqPropertyDescription* height = container->GetByName(CZqString("Height"), CZqString(ZQ_TEXT));
+  if (!height) height = container->GetByName(CZqString("Model text height"), CZqString(ZQ_TEXT));
+  if (!height) return;
+  const char* name = annotative ? QT_TRANSLATE_NOOP("property_types", "Model text height") : "Height";
+  const QString stem = annotative ? QStringLiteral("Text_model_text_height") : QStringLiteral("Text_Height");
+  height->SetName(CZqString(QCoreApplication::translate("property_types", name)));
+  height->SetKeys(CZqString(ZQ_TEXT), CZqString(name));
+  height->SetDarkIcon(CZqString(ZqDarkIconPath(stem, QStringLiteral("Text"))));
+  height->SetLightIcon(CZqString(ZqLightIconPath(stem, QStringLiteral("Text"))));
+  height->PutIsReadOnlyMethod(annotative ? kZqReadOnly : kZqEditable);
+}
+
+void annotativeRows(const OdDbObject* object, CZqPropertiesContainer* container) {
+  const bool annotative = ZqIsAnnotative(object);
+  nameHeightRow(container, annotative);
+  ZqAddAnnotativeRows(object, container, ZQ_TEXT, "CZqTextPE");
+  if (annotative) {
+    container->AddDynamic(ZqBuildDynamicDescription(kSheetHeightRow));
+    container->AddDynamic(ZqBuildDynamicDescription(kMatchOrientationRow));
+  }
+  CZqCustomPropertyDescription* scales = ZqBuildDynamicDescription(kEditScalesRow);
+  scales->PutGroupActionMethod(ZqAnnotationScalesAction);
+  scales->SetDescription(CZqString(QCoreApplication::translate("CZqTextPE", "Edit annotation scales")));
+  container->AddDynamic(scales);
+}
+
 }  // namespace
 
-ZQ_DEFINE_PROVIDER(CZqTextPE, QT_TRANSLATE_NOOP("entity_types", "Simplenote"), kRows)
+ZQ_DEFINE_PROVIDER(CZqTextPE, QT_TRANSLATE_NOOP("entity_types", "Simplenote"), kRows, {}, &annotativeRows)
 
 namespace {
 
@@ -352,7 +435,13 @@ void ZqPrintTextLines(const OdDbText* text, CZqPrintInfoContext* context) {
   context->PrintString(QCoreApplication::translate("info_items", "Typeface"), OdString());
   context->PrintString(QCoreApplication::translate("info_items", "Font file"), style ? style->fileName() : OdString());
   context->PrintPoint(QCoreApplication::translate("info_items", "Start point"), text->position());
-  context->PrintDist(QCoreApplication::translate("info_items", "height"), text->height());
+  if (ZqIsAnnotative(text)) {
+    const double factor = CZqObjectAnnotationContext(text->objectId()).CurrentFactor();
+    context->PrintDist(QCoreApplication::translate("info_items", "Sheet text height"), text->height() * factor);
+    context->PrintDist(QCoreApplication::translate("info_items", "Model text height"), text->height());
+  } else {
+    context->PrintDist(QCoreApplication::translate("info_items", "height"), text->height());
+  }
   context->PrintString(QCoreApplication::translate("info_items", "text"), text->textString());
   context->PrintAngle(QCoreApplication::translate("info_items", "rotation angle"), text->rotation());
   context->PrintScale(QCoreApplication::translate("info_items", "width scale"), text->widthFactor());

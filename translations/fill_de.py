@@ -495,6 +495,26 @@ DE.setdefault("OdDbAcis", {}).update({
     "The body has free-form geometry, which cannot be moved here.": "Der Körper hat Freiformgeometrie, die hier nicht verschoben werden kann.",
 })
 
+# Annotative texts and dimensions
+DE.setdefault("property_types", {}).update({
+    "Sheet text height": "Papiertexthöhe",
+    "Model text height": "Modelltexthöhe",
+    "Match orientation to sheet": "Ausrichtung an Blatt anpassen",
+    "Edit annotation scales": "Beschriftungsmaßstäbe bearbeiten",
+})
+DE.setdefault("info_items", {}).update({"Sheet text height": "Papiertexthöhe", "Model text height": "Modelltexthöhe"})
+for owner in ("CZqTextPE", "CZqMTextPE", "CZqDimensionPE", "CZqLeaderPE", "CZqMLeaderPE"):
+    DE.setdefault(owner, {}).update({"Edit annotation scales": "Beschriftungsmaßstäbe bearbeiten"})
+DE.setdefault("errors", {}).update({
+    "A text justified Aligned or Fit cannot be annotative.":
+        "Ein Text mit der Ausrichtung Ausgerichtet oder Eingepasst kann nicht beschriftend sein.",
+    "Annotative objects need a drawing saved as %1 or later; this drawing is %2.":
+        "Beschriftende Objekte brauchen eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.",
+    "The object is not open for changes.": "Das Objekt ist nicht zum Ändern geöffnet.",
+    "Only an annotative object can follow the orientation of the sheet.":
+        "Nur ein beschriftendes Objekt kann der Ausrichtung des Blatts folgen.",
+})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

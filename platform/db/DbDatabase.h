@@ -1,6 +1,7 @@
 #pragma once
 // The drawing database: owns its objects, finds them by id and handle, and
 // keeps the drawing's tables and settings (system variables).
+#include "DbAnnotationScales.h"
 #include "DbSymbolTable.h"
 #include "OdGeMatrix3d.h"
 #include <deque>
@@ -141,6 +142,12 @@ class DB_API OdDbDatabase : public OdRxObject {
   const OdArray<OdString>& plotStyleNames() const { return m_plotStyleNames; }
   void setPlotStyleNames(const OdArray<OdString>& names) { m_plotStyleNames = names; }
 
+  // Annotation scales: the drawing's scale list, its current annotation
+  // scale and, for each object that has them, the scales it is drawn at
+  // (read from the drawing's dictionaries; see DbAnnotationScales.h).
+  const OdDbAnnotationScales& annotationScales() const { return m_annotationScales; }
+  void setAnnotationScales(const OdDbAnnotationScales& scales) { m_annotationScales = scales; }
+
   // What the drawing-file reader keeps with the database to write the
   // drawing back as it was read (the file's records and which object each
   // belongs to). Opaque to the database; released with it.
@@ -169,6 +176,7 @@ class DB_API OdDbDatabase : public OdRxObject {
   OdString m_fileVersion;
   bool m_pstylemode = true;
   OdArray<OdString> m_plotStyleNames;
+  OdDbAnnotationScales m_annotationScales;
   OdRxObjectPtr m_fileData;
   std::unique_ptr<OdDbUndoJournal> m_undo;
 };

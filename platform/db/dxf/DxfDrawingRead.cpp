@@ -36,6 +36,7 @@ class Reader {
   void readVersion();
   void scanHandles();
   void readPlotStyleNames();
+  void readAnnotationScales();
   // Reads the TABLES section's records of the tables `want` accepts.
   void readTables(int s, bool (*want)(int k));
   void ensureTable(int k);
@@ -193,6 +194,88 @@ void Reader::readPlotStyleNames() {
       m_db->setPlotStyleNames(names);
       break;
     }
+}
+
+// Annotation scales. The named-objects dictionary holds the scale list
+// (ACAD_SCALELIST: SCALE objects, 300 name, 140 paper units, 141 drawing
+// units) and, among the drawing's variables (AcDbVariableDictionary), the
+// current scale (CANNOSCALE: its value, group 1, is a scale name). An object drawn at several scales has,
+// in its extension dictionary, AcDbContextDataManager / ACDB_ANNOTATIONSCALES:
+// one context-data object per scale, each naming its SCALE object (340).
+// Only read here; the records stay in the file as they are.
+void Reader::readAnnotationScales() {
+  const Section* objects = m_d.file.section("OBJECTS");
+  if (!objects || objects->records.isEmpty()) return;
+  QHash<quint64, const Record*> byHandle;
+  byHandle.reserve(objects->records.size());
+  for (const Record& r : objects->records)
+    if (const quint64 h = r.handle()) byHandle.insert(h, &r);
+  // The entries (name, handle) of a dictionary record.
+  auto entries = [](const Record& dict, auto&& each) {
+    for (int i = 1; i + 1 < dict.size(); ++i)
+      if (dict.at(i).code() == 3 && (dict.at(i + 1).code() == 350 || dict.at(i + 1).code() == 360))
+        each(dict.str(i), dict.at(i + 1).handle());
+  };
+  auto entry = [&](const Record* dict, QLatin1String name) -> const Record* {
+    const Record* found = nullptr;
+    if (dict)
+      entries(*dict, [&](const QString& n, quint64 h) {
+        if (!found && n.compare(name, Qt::CaseInsensitive) == 0) found = byHandle.value(h);
+      });
+    return found;
+  };
+  auto text = [](const Record* r, int code) {
+    const int i = r ? r->find(code, 1) : -1;
+    return i >= 0 ? OdString(r->str(i)) : OdString();
+  };
+  auto real = [](const Record* r, int code, double fallback) {
+    const int i = r ? r->find(code, 1) : -1;
+    bool ok = false;
+    const double v = i >= 0 ? r->at(i).real(&ok) : fallback;
+    return ok ? v : fallback;
+  };
+
+  OdDbAnnotationScales result;
+  const Record& root = objects->records.first();
+  if (!root.isType("DICTIONARY")) return;
+  QHash<quint64, OdString> scaleNames;
+  if (const Record* list = entry(&root, QLatin1String("ACAD_SCALELIST"))) {
+    entries(*list, [&](const QString&, quint64 h) {
+      const Record* scale = byHandle.value(h);
+      if (!scale || !scale->isType("SCALE")) return;
+      OdDbAnnotationScale s;
+      s.name = text(scale, 300);
+      s.paperUnits = real(scale, 140, 1.0);
+      s.drawingUnits = real(scale, 141, 1.0);
+      scaleNames.insert(h, s.name);
+      result.scales.append(s);
+    });
+  }
+  result.current = text(entry(entry(&root, QLatin1String("AcDbVariableDictionary")), QLatin1String("CANNOSCALE")), 1);
+  // Extension dictionaries are owned (330) by their object.
+  for (const Record& r : objects->records) {
+    if (!r.isType("DICTIONARY")) continue;
+    const Record* scales = entry(entry(&r, QLatin1String("AcDbContextDataManager")), QLatin1String("ACDB_ANNOTATIONSCALES"));
+    if (!scales) continue;
+    quint64 owner = 0;
+    for (int i = 1, depth = 0; i < r.size() && !owner; ++i) {
+      const Tag& t = r.at(i);
+      if (t.code() == 102) depth += t.trimmed().startsWith("{") ? 1 : -1;
+      else if (t.code() == 330 && depth == 0) owner = t.handle();
+    }
+    if (!owner) continue;
+    QList<OdString> names;
+    entries(*scales, [&](const QString&, quint64 h) {
+      const Record* context = byHandle.value(h);
+      const int i = context ? context->find(340, 1) : -1;
+      if (i >= 0) {
+        const OdString name = scaleNames.value(context->at(i).handle());
+        if (!name.isEmpty()) names.append(name);
+      }
+    });
+    result.objectScales.insert(owner, names);
+  }
+  m_db->setAnnotationScales(result);
 }
 
 void Reader::readTables(int s, bool (*want)(int k)) {
@@ -461,6 +544,7 @@ void Reader::run() {
   m_db->reserveObjects(records);
   m_d.bound.reserve(records);
   readPlotStyleNames();
+  readAnnotationScales();
   m_ctx.missingRecord = [this](NameIndex& index, const QString& name) { return missingRecord(index, name); };
   // Linetypes first: layers name them.
   for (int s = 0; s < f.sections().size(); ++s)

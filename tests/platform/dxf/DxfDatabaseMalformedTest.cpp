@@ -7,7 +7,6 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include <random>
 
 using namespace dxfdb;
 
@@ -375,43 +374,6 @@ TEST(DxfDatabaseMalformed, DrawingWithoutHandlesKeepsHavingNone) {
   const QByteArray out = save(db.get());
   EXPECT_FALSE(out.contains("\n  5\n"));
   EXPECT_EQ(out.toStdString(), expected.toStdString());
-}
-
-// Damaged copies of a real drawing, ASCII and binary: each is refused with a
-// place or loaded; what loads can be written. Never a crash.
-TEST(DxfDatabaseMalformed, DamagedDrawingsNeverCrash) {
-  odDbInitialize();
-  const QByteArray ascii = readBytes(samplePath(QStringLiteral("libredwg__test__test-data__2000__entities-3d.dxf")));
-  OdDxf::File f;
-  QString error;
-  ASSERT_TRUE(OdDxf::File::read(ascii, f, error));
-  std::mt19937 rng(20240611);
-  for (const QByteArray& bytes : {ascii, f.write(OdDxf::File::Form::Binary)}) {
-    int refused = 0, loaded = 0;
-    for (int i = 0; i < 200; ++i) {
-      QByteArray damaged = bytes;
-      const int kind = i % 4;
-      const qsizetype at = qsizetype(rng() % quint32(damaged.size()));
-      if (kind == 0) damaged[at] = char(rng() % 256);                  // a byte changed
-      else if (kind == 1) damaged.remove(at, qsizetype(rng() % 64));   // bytes lost
-      else if (kind == 2) damaged.truncate(at);                        // cut short
-      else damaged.insert(at, QByteArray("\n  0\nLINE\n 10\n"));       // a record cut in
-      QStringList warnings;
-      OdDbDatabasePtr db = OdDxf::readDrawing(damaged, error, &warnings);
-      if (!db) {
-        ++refused;
-        EXPECT_TRUE(QRegularExpression(QStringLiteral("^(line \\d+|byte offset \\d+): ")).match(error).hasMatch())
-            << error.toStdString();
-        continue;
-      }
-      ++loaded;
-      QString writeError;
-      EXPECT_FALSE(OdDxf::writeDrawing(db.get(), &writeError).isEmpty());
-      EXPECT_TRUE(writeError.isEmpty()) << writeError.toStdString();
-    }
-    EXPECT_GT(refused, 0);
-    EXPECT_GT(loaded, 0);
-  }
 }
 
 }  // namespace

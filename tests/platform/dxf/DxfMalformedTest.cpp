@@ -3,7 +3,6 @@
 // damage are read through the drawing mapper in DxfDatabaseMalformedTest.)
 #include "DxfTestSupport.h"
 
-#include <random>
 
 using namespace OdDxf;
 using namespace dxftest;
@@ -158,34 +157,5 @@ INSTANTIATE_TEST_SUITE_P(
                                 "1001\nACAD\n1070\n     5\n1040\n-0.25\n1004\n0A0B\n  0\nENDSEC\n  0\nEOF\n",
                 18}),
     [](const auto& info) { return std::string(info.param.name); });
-
-// Cutting a real drawing anywhere: refused with the line the data ends on (or
-// the one after it), or - cut right after ENDSEC or within the final line
-// end - loaded with the EOF repair or unchanged.
-TEST(DxfTruncated, AsciiAtManyPointsNamesTheEndLine) {
-  const QByteArray bytes = readBytes(samplePath(QStringLiteral("libredwg__test__test-data__2000__entities-2d.dxf")));
-  std::mt19937 rng(12345);
-  std::vector<qsizetype> cuts;
-  for (int i = 0; i < 300; ++i) cuts.push_back(qsizetype(rng() % quint32(bytes.size())));
-  for (qsizetype k = bytes.size() - 40; k < bytes.size(); ++k) cuts.push_back(k);
-  for (qsizetype cut : cuts) {
-    const QByteArray data = bytes.left(cut);
-    File f;
-    QString error;
-    QStringList warnings;
-    const qsizetype lines = data.count('\n');
-    if (File::read(data, f, error, &warnings)) {
-      const bool endsAfterEndsec = data.endsWith("ENDSEC\r\n");
-      EXPECT_TRUE(endsAfterEndsec || data.trimmed().endsWith("EOF")) << "cut " << cut;
-      if (endsAfterEndsec) {
-        EXPECT_EQ(warnings, QStringList(QStringLiteral("line %1: EOF missing at the end of the file; added").arg(lines + 1)));
-      }
-      continue;
-    }
-    const QString at1 = QStringLiteral("line %1: ").arg(lines + 1), at2 = QStringLiteral("line %1: ").arg(lines + 2);
-    EXPECT_TRUE(error.startsWith(at1) || (!data.endsWith('\n') && error.startsWith(at2)))
-        << "cut " << cut << ": " << error.toStdString();
-  }
-}
 
 }  // namespace
