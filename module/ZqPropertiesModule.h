@@ -25,6 +25,7 @@
 #include "Vertex.h"
 #include "Xline.h"
 #include "Solids.h"
+#include "Blocks.h"
 
 #include <vector>
 

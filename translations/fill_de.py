@@ -514,6 +514,26 @@ DE.setdefault("errors", {}).update({
     "Only an annotative object can follow the orientation of the sheet.":
         "Nur ein beschriftendes Objekt kann der Ausrichtung des Blatts folgen.",
 })
+# Block references, multiple inserts and their attributes.
+DE.setdefault("entity_types", {}).update({"Block Reference": "Blockreferenz", "Multiple Block Reference": "Mehrfach-Blockreferenz"})
+DE.setdefault("property_groups", {}).update({"Attributes": "Attribute"})
+DE.setdefault("property_types", {}).update({
+    "Scale X": "Skalierung X", "Scale Y": "Skalierung Y", "Scale Z": "Skalierung Z", "Unit factor": "Einheitenfaktor",
+    "Uniform scale": "Einheitlich skalieren", "Columns": "Spalten", "Rows": "Zeilen",
+    "Column spacing": "Spaltenabstand", "Row spacing": "Zeilenabstand",
+})
+DE.setdefault("info_items", {}).update({
+    "Block Name": "Blockname", "at point": "bei Punkt", "X scale factor": "X-Skalierfaktor",
+    "Y scale factor": "Y-Skalierfaktor", "Z scale factor": "Z-Skalierfaktor", "rotation angle": "Drehwinkel",
+    "Extrusion direction": "Extrusionsrichtung", "Unit factor": "Einheitenfaktor", "Columns": "Spalten", "Rows": "Zeilen",
+    "Column spacing": "Spaltenabstand", "Row spacing": "Zeilenabstand", "Attribute": "Attribut",
+})
+DE.setdefault("errors", {}).update({
+    "A layout cannot be placed as a block.": "Ein Layout kann nicht als Block eingefügt werden.",
+    "A block cannot contain a reference to itself.": "Ein Block kann keine Referenz auf sich selbst enthalten.",
+    "A scale factor cannot be 0.": "Ein Skalierfaktor kann nicht 0 sein.",
+    "Rows and columns are counted in whole numbers.": "Zeilen und Spalten werden in ganzen Zahlen gezählt.",
+})
 
 for context in tree.getroot().iter("context"):
     name = context.find("name").text

@@ -121,3 +121,14 @@ OdDbObjectIdArray OdDbBlockTableRecord::entityIds(bool includeErased) const {
     if (!id.isErased()) out.append(id);
   return out;
 }
+
+// The block's own values; its entities stay where they are (they are owned
+// objects, not values).
+void OdDbBlockTableRecord::copyFrom(const OdRxObject* source) {
+  OdDbSymbolTableRecord::copyFrom(source);
+  auto* b = static_cast<const OdDbBlockTableRecord*>(source);
+  m_origin = b->m_origin;
+  m_scaling = b->m_scaling;
+  m_insertUnits = b->m_insertUnits;
+  m_explodable = b->m_explodable;
+}

@@ -179,10 +179,22 @@ class DB_API OdDbBlockTableRecord : public OdDbSymbolTableRecord {
 
   OdGePoint3d origin() const { assertReadEnabled(); return m_origin; }
   void setOrigin(const OdGePoint3d& p) { assertWriteEnabled(); m_origin = p; }
+  // How references may scale the block: 0 any factors, 1 the same factor
+  // on every axis. Its insertion units ($INSUNITS codes) and whether
+  // references may be exploded.
+  int blockScaling() const { assertReadEnabled(); return m_scaling; }
+  void setBlockScaling(int v) { assertWriteEnabled(); m_scaling = v; }
+  int blockInsertUnits() const { assertReadEnabled(); return m_insertUnits; }
+  void setBlockInsertUnits(int v) { assertWriteEnabled(); m_insertUnits = v; }
+  bool explodable() const { assertReadEnabled(); return m_explodable; }
+  void setExplodable(bool v) { assertWriteEnabled(); m_explodable = v; }
+  void copyFrom(const OdRxObject* source) override;
 
  private:
   OdDbObjectIdArray m_entities;
   OdGePoint3d m_origin;
+  int m_scaling = 0, m_insertUnits = 0;
+  bool m_explodable = true;
 };
 using OdDbBlockTableRecordPtr = OdSmartPtr<OdDbBlockTableRecord>;
 

@@ -510,7 +510,9 @@ void Reader::readEntities(int s, int begin, int end, const OdDbObjectId& block, 
       // ATTRIB records up to SEQEND: the block reference's attributes.
       bool attributes = false;
       while (next < end && sec.records[next].isType("ATTRIB")) {
-        readEntity(s, next, id, nullptr, false);
+        const OdDbObjectId attribute = readEntity(s, next, id, nullptr, false);
+        if (auto* reference = odrxCast<OdDbBlockReference>(id.stub()->object))
+          reference->appendAttributeInternal(attribute);
         attributes = true;
         ++next;
       }

@@ -392,7 +392,7 @@ constexpr ClassMapping kEntities[] = {
 const ClassMapping* entityMapping(const OdRxClass* cls) {
   for (const ClassMapping& m : kEntities)
     if (m.desc() == cls) return &m;
-  return nullptr;
+  return blockEntityMapping(cls);
 }
 
 }  // namespace OdDxf::mapping

@@ -440,6 +440,9 @@ void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 // Entities whose data the platform models; the rest keep their common
 // properties only.
 const ClassMapping* entityMapping(const OdRxClass* cls);
+// Block references, tables, images, underlays, OLE frames and proxies
+// (DxfBlocks.cpp).
+const ClassMapping* blockEntityMapping(const OdRxClass* cls);
 // Symbol table records, by class or by record type.
 const ClassMapping* recordMapping(const OdRxClass* cls);
 const ClassMapping* recordMapping(QByteArrayView type);

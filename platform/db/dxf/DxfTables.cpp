@@ -157,8 +157,14 @@ void blockNameField(Fields<OdDbBlockTableRecord>& f) {
 }
 
 void blockRecordFields(Fields<OdDbBlockTableRecord>& f) {
+  using B = OdDbBlockTableRecord;
   f.subclass("AcDbBlockTableRecord");
   blockNameField(f);
+  f.io().skip(340);
+  // Insertion units, explodability and scaling (R2000 on).
+  f.integer(70, &B::blockInsertUnits, &B::setBlockInsertUnits, 0, Opt::Optional);
+  f.integer(280, &B::explodable, &B::setExplodable, 1, Opt::Optional);
+  f.integer(281, &B::blockScaling, &B::setBlockScaling, 0, Opt::Optional);
 }
 
 //                                   record          class                              since  fields
