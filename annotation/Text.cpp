@@ -59,17 +59,11 @@ bool isAlignedOrFit(const T* text) {
   return text->horizontalMode() == OdDb::kTextAlign || text->horizontalMode() == OdDb::kTextFit;
 }
 
-// The direction of the text's base line in WCS.
-OdGeVector3d baseDirection(const T* text) {
-  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(text->normal());
-  return toWorld * OdGeVector3d(std::cos(text->rotation()), std::sin(text->rotation()), 0);
-}
-
-// The far end of the text's base line: its nominal extent, each character
-// as wide as the height times the width factor.
+// The far end of the text's base line, as the style's font measures it.
 OdGePoint3d baseLineEnd(const T* text) {
-  const double characters = std::max<qsizetype>(1, text->textString().qstring().size());
-  return text->position() + baseDirection(text) * (characters * text->height() * text->widthFactor());
+  OdArray<OdGePoint3d> box;
+  text->getBoundingPoints(box);
+  return box[3];
 }
 
 CZqVariant getJustify(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {

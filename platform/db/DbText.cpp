@@ -1,4 +1,7 @@
 #include "DbText.h"
+#include "DbFontMetrics.h"
+#include "DbSymbolTable.h"
+#include "OdGeMatrix3d.h"
 
 #include <cmath>
 
@@ -125,4 +128,22 @@ void OdDbAttribute::copyFrom(const OdRxObject* source) {
   m_fieldLength = a->m_fieldLength;
   m_lockPosition = a->m_lockPosition;
   m_multiline = a->m_multiline;
+}
+
+void OdDbText::getBoundingPoints(OdArray<OdGePoint3d>& points) const {
+  assertReadEnabled();
+  OdDbObjectPtr opened = m_style.isNull() || m_style.isErased() ? OdDbObjectPtr() : m_style.openObject();
+  const auto* style = odrxCast<OdDbTextStyleTableRecord>(opened.get());
+  const double width = OdDbFontMetrics::advance(style, m_text) * m_height * m_widthFactor;
+  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(m_normal);
+  OdGeVector3d along = toWorld * OdGeVector3d(std::cos(m_rotation), std::sin(m_rotation), 0);
+  OdGeVector3d up = toWorld * OdGeVector3d(-std::sin(m_rotation), std::cos(m_rotation), 0);
+  if (isMirroredInX()) along = -along;
+  if (isMirroredInY()) up = -up;
+  const OdGePoint3d bottomLeft = m_position, bottomRight = m_position + along * width;
+  points.clear();
+  points.append(bottomLeft + up * m_height);
+  points.append(bottomRight + up * m_height);
+  points.append(bottomLeft);
+  points.append(bottomRight);
 }

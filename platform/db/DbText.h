@@ -56,6 +56,12 @@ class DB_API OdDbText : public OdDbEntity {
   bool isMirroredInY() const { assertReadEnabled(); return m_genFlags & 4; }
   void mirrorInY(bool on);
 
+  // The corners of the text's box in WCS, measured with the real font of
+  // its style (see DbFontMetrics.h): top left, top right, bottom left,
+  // bottom right, from the start point along the base line (backward and
+  // upside-down text runs the other way). The box is as high as a capital.
+  void getBoundingPoints(OdArray<OdGePoint3d>& points) const;
+
   void copyFrom(const OdRxObject* source) override;
 
  private:
