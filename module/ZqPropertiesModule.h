@@ -13,6 +13,7 @@
 #include "Circle.h"
 #include "Dimension.h"
 #include "Ellipse.h"
+#include "Hatch.h"
 #include "Line.h"
 #include "MText.h"
 #include "Point.h"

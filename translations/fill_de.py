@@ -494,6 +494,34 @@ DE.setdefault("OdDbAcis", {}).update({
     "The modeller data holds no face.": "Die Modelliererdaten enthalten keine Fläche.",
     "The body has free-form geometry, which cannot be moved here.": "Der Körper hat Freiformgeometrie, die hier nicht verschoben werden kann.",
 })
+# Hatches.
+DE.setdefault("entity_types", {}).update({"Hatch": "Schraffur"})
+DE.setdefault("property_groups", {}).update({"Pattern": "Muster", "Gradient": "Verlauf"})
+DE.setdefault("property_types", {}).update({
+    "Type": "Typ", "Pattern name": "Mustername", "Scale": "Skalierung", "Spacing": "Abstand", "Double": "Doppelt",
+    "Origin X": "Ursprung X", "Origin Y": "Ursprung Y", "Associative": "Assoziativ",
+    "Island detection style": "Inselerkennungsstil", "Background color": "Hintergrundfarbe", "Boundaries": "Umgrenzungen",
+    "Gradient name": "Verlaufsname", "Color 1": "Farbe 1", "Color 2": "Farbe 2", "Gradient angle": "Verlaufswinkel",
+    "Centered": "Zentriert",
+})
+DE.setdefault("property_values", {}).update({
+    "Predefined": "Vordefiniert", "User defined": "Benutzerdefiniert", "Custom": "Angepasst", "Normal": "Normal",
+    "Outer": "Äußere", "Ignore": "Ignorieren", "Not computable": "Nicht berechenbar",
+})
+DE.setdefault("info_items", {}).update({
+    "Pattern type": "Mustertyp", "Pattern name": "Mustername", "Angle": "Winkel", "Spacing": "Abstand", "Double": "Doppelt",
+    "Scale": "Skalierung", "Origin": "Ursprung", "Gradient name": "Verlaufsname", "Associative": "Assoziativ",
+    "Island detection style": "Inselerkennungsstil", "Boundaries": "Umgrenzungen", "Area": "Fläche", "Elevation": "Erhebung",
+})
+DE.setdefault("info_values", {}).update({
+    "not computable (the boundary crosses itself or is open)": "nicht berechenbar (die Umgrenzung schneidet sich selbst oder ist offen)",
+})
+DE.setdefault("CZqHatchPE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("errors", {}).update({
+    "There is no hatch pattern named \"%1\".": "Es gibt kein Schraffurmuster namens \"%1\".",
+    "Only a hatch made from boundary objects can be associative": "Nur eine aus Umgrenzungsobjekten erzeugte Schraffur kann assoziativ sein",
+    "A gradient colour must be a colour of its own, not ByLayer or ByBlock": "Eine Verlaufsfarbe muss eine eigene Farbe sein, nicht VonLayer oder VonBlock",
+})
 
 # Annotative texts and dimensions
 DE.setdefault("property_types", {}).update({

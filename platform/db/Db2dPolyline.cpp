@@ -1,4 +1,5 @@
 #include "Db2dPolyline.h"
+#include <algorithm>
 #include "DbBulgeGeometry.h"
 
 OdDb2dVertex::OdDb2dVertex() = default;
@@ -64,9 +65,16 @@ void OdDb2dPolyline::setNormal(const OdGeVector3d& n) {
 }
 
 namespace {
+// The vertices the curve runs through: a spline-fit polyline's frame (its
+// control points) is not on the curve, unless it has nothing else.
 OdArray<OdDbBulge::Vertex> bulgeVertices(const OdArray<OdDb2dVertexPtr>& verts) {
+  const bool onlyFrame = std::all_of(verts.begin(), verts.end(), [](const OdDb2dVertexPtr& v) {
+    return v->vertexType() == OdDb::k2dSplineCtlVertex;
+  });
   OdArray<OdDbBulge::Vertex> out;
-  for (const OdDb2dVertexPtr& v : verts) out.append(OdDbBulge::Vertex{v->position().convert2d(), v->bulge()});
+  for (const OdDb2dVertexPtr& v : verts)
+    if (onlyFrame || v->vertexType() != OdDb::k2dSplineCtlVertex)
+      out.append(OdDbBulge::Vertex{v->position().convert2d(), v->bulge()});
   return out;
 }
 }  // namespace
@@ -86,7 +94,7 @@ OdResult OdDb2dPolyline::getStartParam(double& param) const {
 OdResult OdDb2dPolyline::getEndParam(double& param) const {
   assertReadEnabled();
   if (m_verts.isEmpty()) return eInvalidInput;
-  param = OdDbBulge::segmentCount(m_verts.length(), m_closed);
+  param = OdDbBulge::segmentCount(bulgeVertices(m_verts).length(), m_closed);
   return eOk;
 }
 

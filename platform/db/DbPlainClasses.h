@@ -22,6 +22,7 @@
 #include "DbDimension.h"
 #include "DbModelerGeometry.h"
 #include "DbBlockReference.h"
+#include "DbHatch.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

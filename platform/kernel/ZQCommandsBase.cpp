@@ -474,6 +474,11 @@ double ZqCurvesHelper::GetLength(const OdDbObject* object) {
 }
 
 double ZqCurvesHelper::GetArea(const OdDbObject* object) {
+  // Hatches are no curves: their area is what they fill.
+  if (const OdDbHatch* hatch = odrxCast<OdDbHatch>(object)) {
+    double area = 0;
+    return hatch->isReadEnabled() && hatch->getArea(area) == eOk ? area : 0.0;
+  }
   const OdDbCurve* curve = odrxCast<OdDbCurve>(object);
   if (!curve || !curve->isReadEnabled()) return 0.0;
   double area = 0;

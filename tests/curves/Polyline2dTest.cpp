@@ -32,6 +32,28 @@ class Polyline2dTest : public ZqDrawingTest {
   static CZqVariant vertex(int i) { return CZqVariant(int32_t(i)); }
 };
 
+// A spline-fit polyline keeps its frame (control points far outside) among
+// its vertices; length and area are those of the fitted curve alone.
+TEST_F(Polyline2dTest, SplineFrameCountsNeitherInLengthNorArea) {
+  OdDb2dPolylinePtr pl = OdDb2dPolyline::createObject();
+  pl->setPolyType(OdDb::k2dCubicSplinePoly);
+  const struct {
+    double x, y;
+    OdDb::Vertex2dType type;
+  } verts[] = {{-50, -50, OdDb::k2dSplineCtlVertex}, {0, 0, OdDb::k2dSplineFitVertex}, {3, 0, OdDb::k2dSplineFitVertex},
+               {50, 50, OdDb::k2dSplineCtlVertex},   {3, 4, OdDb::k2dSplineFitVertex}, {0, 4, OdDb::k2dSplineFitVertex}};
+  for (const auto& v : verts) {
+    OdDb2dVertexPtr vx = OdDb2dVertex::createObject();
+    vx->setPosition(OdGePoint3d(v.x, v.y, 0));
+    vx->setVertexType(v.type);
+    pl->appendVertex(vx.get());
+  }
+  pl->setClosed(true);
+  const OdDbObjectId id = addToModelSpace(pl.get());
+  EXPECT_NEAR(get(id, "Geometry", "Length").GetDouble(), 14, 1e-12);
+  EXPECT_NEAR(get(id, "Geometry", "Area", CZqVariant(1111.0, false)).GetDouble(), 12, 1e-12);
+}
+
 TEST_F(Polyline2dTest, RowsShowThePolylineInTheUcs) {
   useRotatedUcs();
   const OdDbObjectId id = addPolyline();

@@ -382,6 +382,8 @@ constexpr ClassMapping kEntities[] = {
     {"DIMENSION",  &OdDbOrdinateDimension::desc,      0, &fieldsOf<OdDbDimension, ordinateDimensionFields>,          false},
     {"ARC_DIMENSION", &OdDbArcDimension::desc,        1015, &fieldsOf<OdDbDimension, arcDimensionFields>,            false},
     {"LARGE_RADIAL_DIMENSION", &OdDbRadialDimensionLarge::desc, 1015, &fieldsOf<OdDbDimension, largeRadialDimensionFields>, false},
+    // Hatches: new ones cannot be written (their loops are only read).
+    {"HATCH",      &OdDbHatch::desc,       1012, &fieldsOf<OdDbHatch, hatchFields>,                 false, true},
     // Arc-aligned text: its font names and the arc it follows are not mapped.
     {"ARCALIGNEDTEXT", &OdDbArcAlignedText::desc, 1012, &fieldsOf<OdDbArcAlignedText, arcAlignedTextFields>, false, true},
 };

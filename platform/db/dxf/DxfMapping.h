@@ -56,6 +56,7 @@ class OdDbExtrudedSurface;
 class OdDbRevolvedSurface;
 class OdDbSweptSurface;
 class OdDbLoftedSurface;
+class OdDbHatch;
 
 namespace OdDxf::mapping {
 
@@ -405,6 +406,8 @@ void pointFields(Fields<OdDbPoint>& f);
 void faceFields(Fields<OdDbFace>& f);
 void solidFields(Fields<OdDbSolid>& f);
 void traceFields(Fields<OdDbTrace>& f);
+// Hatches (DxfFills.cpp).
+void hatchFields(Fields<OdDbHatch>& f);
 void rayFields(Fields<OdDbRay>& f);
 void xlineFields(Fields<OdDbXline>& f);
 // Texts (DxfText.cpp).
