@@ -137,8 +137,11 @@ void ZqPaletteModel::rebuild() {
       const unsigned vis = d->GetVisibility();
       if (!(vis & kZqVisPalette) || (multi && (vis & kZqVisSingleOnly))) continue;
       const QString k = rowKey(d->GetCategoryKey(), d->GetNameKey());
-      if (byKey[g].contains(k)) continue;  // a name repeated within one object: the first serves
-      byKey[g].insert(k, d);
+      // A name repeated within one object: shown for that object alone; for
+      // several objects the first serves.
+      const bool repeated = byKey[g].contains(k);
+      if (repeated && multi) continue;
+      if (!repeated) byKey[g].insert(k, d);
       if (g == 0) {
         Entry e;
         e.row.category = d->GetCategory();
@@ -150,6 +153,7 @@ void ZqPaletteModel::rebuild() {
         e.action = d->IsGroupedAction();
         e.darkIcon = d->GetDarkIcon().qstring();
         e.lightIcon = d->GetLightIcon().qstring();
+        if (repeated) e.descs.push_back(d);
         m_entries.push_back(std::move(e));
       }
     }
@@ -164,6 +168,9 @@ void ZqPaletteModel::rebuild() {
   for (Entry& e : m_entries) {
     const QString k = rowKey(e.row.categoryKey, e.row.nameKey);
     bool everywhere = true;
+    if (!e.descs.empty()) {
+      // A repeated row of a single object keeps its own description.
+    } else
     for (size_t g = 0; g < groups.size() && everywhere; ++g) {
       auto it = byKey[g].find(k);
       if (it == byKey[g].end()) everywhere = false;

@@ -136,7 +136,12 @@ void ZqPaletteDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const
   // Leaving an editor unchanged (or a varying value untouched) is no edit.
   if (text.isEmpty() && row->varies) return;
   if (!row->varies && text == row->text.qstring()) return;
-  m_model->commitText(index, text);
+  // The edit rebuilds the rows; it runs once the editor has closed.
+  ZqPaletteModel* model = m_model;
+  const QPersistentModelIndex at(index);
+  QMetaObject::invokeMethod(model, [model, at, text] {
+    if (at.isValid()) model->commitText(at, text);
+  }, Qt::QueuedConnection);
 }
 
 ZqPaletteWidget::ZqPaletteWidget(QWidget* parent)
