@@ -468,6 +468,21 @@ void ZqDrawingView::paintEvent(QPaintEvent*) {
   const auto& texts = m_geometry.texts();
   p.setRenderHint(QPainter::Antialiasing, items.size() < 20000);
   QPolygonF screen;
+  // Thin outlines and dots are gathered by colour and drawn in one call each.
+  QHash<QRgb, QVector<QLineF>> thin;
+  QHash<QRgb, QVector<QPointF>> dots;
+  auto flush = [&] {
+    for (auto it = thin.begin(); it != thin.end(); ++it) {
+      p.setPen(QPen(QColor::fromRgb(it.key()), 0));
+      p.drawLines(it.value());
+    }
+    for (auto it = dots.begin(); it != dots.end(); ++it) {
+      p.setPen(QPen(QColor::fromRgb(it.key()), 0));
+      p.drawPoints(it.value().constData(), int(it.value().size()));
+    }
+    thin.clear();
+    dots.clear();
+  };
   for (int pass = 0; pass < 2; ++pass) {
     // Selected objects last, so that their highlight lies on top.
     for (int i : items) {
@@ -477,14 +492,19 @@ void ZqDrawingView::paintEvent(QPaintEvent*) {
       const QColor color = selected ? QColor(80, 170, 255) : QColor::fromRgb(it.color);
       // An object smaller than a pixel is a dot.
       if (!it.unbounded && it.box.width() * m_scale < 1 && it.box.height() * m_scale < 1) {
-        p.setPen(color);
-        p.drawPoint(toScreen(it.box.center()));
+        dots[color.rgb()].append(toScreen(it.box.center()));
         continue;
       }
       for (quint32 k = 0; k < it.polyCount; ++k) {
         const ZqDrawingGeometry::Poly& poly = polys[it.firstPoly + k];
         screen.resize(qsizetype(poly.count));
         for (quint32 s = 0; s < poly.count; ++s) screen[s] = toScreen(pts[poly.first + s]);
+        if (!selected && !it.boxOnly && poly.width * m_scale < 1.5 && poly.count > 1) {
+          QVector<QLineF>& batch = thin[color.rgb()];
+          for (quint32 s = 0; s + 1 < poly.count; ++s) batch.append(QLineF(screen[s], screen[s + 1]));
+          if (poly.closed) batch.append(QLineF(screen.back(), screen.front()));
+          continue;
+        }
         QPen pen(color, std::max(selected ? 2.0 : 0.0, double(poly.width) * m_scale));
         if (selected) pen.setStyle(Qt::DashLine);
         if (it.boxOnly) pen.setStyle(Qt::DotLine);
@@ -497,8 +517,14 @@ void ZqDrawingView::paintEvent(QPaintEvent*) {
       for (qint32 k = 0; k < it.textCount; ++k) {
         const ZqDrawingGeometry::Text& t = texts[size_t(it.firstText + k)];
         const double px = t.height * m_scale;
+        if (px < 3) {
+          // Too small to read: a stroke along its baseline shows where it is.
+          const QPointF a = toScreen(t.position);
+          const double len = (it.box.width() + it.box.height()) * m_scale / 2;
+          thin[color.rgb()].append(QLineF(a, a + QPointF(std::cos(t.rotation), -std::sin(t.rotation)) * len));
+          continue;
+        }
         p.setPen(color);
-        if (px < 3) continue;  // too small to read: its box shows where it is
         p.save();
         p.translate(toScreen(t.position));
         p.rotate(-t.rotation * 180 / 3.14159265358979323846);
@@ -511,6 +537,7 @@ void ZqDrawingView::paintEvent(QPaintEvent*) {
         p.restore();
       }
     }
+    flush();
   }
   if (m_windowing) {
     const QRect r = QRect(m_pressAt, m_lastAt).normalized();
