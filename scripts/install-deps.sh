@@ -3,7 +3,8 @@
 # missing ones; apt-get needs root). --fuzz: also clang, for the fuzz targets.
 set -euo pipefail
 packages=(g++ cmake ninja-build qt6-base-dev qt6-l10n-tools qt6-tools-dev
-          libgtest-dev libgmock-dev libbenchmark-dev python3-ezdxf libedit-dev)
+          libgtest-dev libgmock-dev libbenchmark-dev python3-ezdxf libedit-dev
+          fonts-dejavu-core)
 [ "${1:-}" = "--fuzz" ] && packages+=(clang libclang-rt-14-dev)
 missing=()
 for p in "${packages[@]}"; do
