@@ -27,6 +27,14 @@ constexpr double kPi = 3.14159265358979323846;
 
 QPointF xy(const OdGePoint3d& p) { return {p.x, p.y}; }
 
+// The grid cell of a coordinate, clamped to the grid before it becomes an
+// integer (a coordinate far outside must not overflow).
+int cellOf(double offset, double size, int cells) {
+  const double c = std::floor(offset / size);
+  if (!(c > 0)) return 0;  // NaN too
+  return c >= cells - 1 ? cells - 1 : int(c);
+}
+
 // Whether two boxes meet, boxes without area (a line, a point) included.
 bool meets(const QRectF& a, const QRectF& b) {
   return a.left() <= b.right() && b.left() <= a.right() && a.top() <= b.bottom() && b.top() <= a.bottom();
@@ -110,7 +118,13 @@ void ZqDrawingGeometry::grow(Item& item, const QRectF& r) {
                     QPointF(std::max(item.box.right(), r.right()), std::max(item.box.bottom(), r.bottom())));
 }
 
-void ZqDrawingGeometry::addPoly(Item& item, const std::vector<QPointF>& pts, bool closed, double width) {
+void ZqDrawingGeometry::addPoly(Item& item, const std::vector<QPointF>& given, bool closed, double width) {
+  // Points that are not finite (a drawing may hold nan) are left out.
+  std::vector<QPointF> pts;
+  pts.reserve(given.size());
+  for (const QPointF& q : given)
+    if (std::isfinite(q.x()) && std::isfinite(q.y())) pts.push_back(q);
+  if (!std::isfinite(width) || width < 0) width = 0;
   if (pts.empty()) return;
   Poly p;
   p.first = quint32(m_points.size());
@@ -126,7 +140,9 @@ void ZqDrawingGeometry::addPoly(Item& item, const std::vector<QPointF>& pts, boo
 }
 
 void ZqDrawingGeometry::addText(Item& item, const Text& text) {
-  if (text.text.trimmed().isEmpty() || !(text.height > 0)) return;
+  if (text.text.trimmed().isEmpty() || !(text.height > 0) || !std::isfinite(text.height) || !std::isfinite(text.position.x()) ||
+      !std::isfinite(text.position.y()) || !std::isfinite(text.rotation) || !std::isfinite(text.widthFactor))
+    return;
   if (item.textCount == 0) item.firstText = qint32(m_texts.size());
   m_texts.push_back(text);
   ++item.textCount;
@@ -300,9 +316,10 @@ void ZqDrawingGeometry::buildGrid() {
   if (m_extents.width() <= 0) m_extents.adjust(-0.5, 0, 0.5, 0);
   if (m_extents.height() <= 0) m_extents.adjust(0, -0.5, 0, 0.5);
   const int side = std::clamp(int(std::sqrt(double(m_items.size()) / 4)), 1, 1024);
-  const double aspect = m_extents.width() / std::max(m_extents.height(), 1e-12);
-  m_cols = std::clamp(int(side * std::sqrt(aspect)), 1, 2048);
-  m_rows = std::clamp(int(side / std::sqrt(std::max(aspect, 1e-12))), 1, 2048);
+  double aspect = m_extents.width() / std::max(m_extents.height(), 1e-12);
+  if (!std::isfinite(aspect) || aspect <= 0) aspect = 1;
+  m_cols = int(std::clamp(side * std::sqrt(aspect), 1.0, 2048.0));
+  m_rows = int(std::clamp(side / std::sqrt(aspect), 1.0, 2048.0));
   m_cellW = std::max(m_extents.width() / m_cols, 1e-12);
   m_cellH = std::max(m_extents.height() / m_rows, 1e-12);
   m_cells.assign(size_t(m_cols) * size_t(m_rows), {});
@@ -314,10 +331,10 @@ void ZqDrawingGeometry::index(int i) {
   const Item& it = m_items[size_t(i)];
   if (m_stamp.size() < m_items.size()) m_stamp.resize(m_items.size(), 0);
   const QRectF b = it.box;
-  const int c0 = std::clamp(int((b.left() - m_extents.left()) / m_cellW), 0, m_cols - 1);
-  const int c1 = std::clamp(int((b.right() - m_extents.left()) / m_cellW), 0, m_cols - 1);
-  const int r0 = std::clamp(int((b.top() - m_extents.top()) / m_cellH), 0, m_rows - 1);
-  const int r1 = std::clamp(int((b.bottom() - m_extents.top()) / m_cellH), 0, m_rows - 1);
+  const int c0 = cellOf(b.left() - m_extents.left(), m_cellW, m_cols);
+  const int c1 = cellOf(b.right() - m_extents.left(), m_cellW, m_cols);
+  const int r0 = cellOf(b.top() - m_extents.top(), m_cellH, m_rows);
+  const int r1 = cellOf(b.bottom() - m_extents.top(), m_cellH, m_rows);
   // Items across many cells, or outside the grid after an edit, are looked at by every query.
   const bool outside = b.left() < m_extents.left() || b.right() > m_extents.right() || b.top() < m_extents.top() ||
                        b.bottom() > m_extents.bottom();
@@ -346,10 +363,10 @@ std::vector<int> ZqDrawingGeometry::query(const QRectF& rect) const {
   };
   for (quint32 i : m_large) consider(i);
   if (meets(m_extents, rect)) {
-    const int c0 = std::clamp(int((rect.left() - m_extents.left()) / m_cellW), 0, m_cols - 1);
-    const int c1 = std::clamp(int((rect.right() - m_extents.left()) / m_cellW), 0, m_cols - 1);
-    const int r0 = std::clamp(int((rect.top() - m_extents.top()) / m_cellH), 0, m_rows - 1);
-    const int r1 = std::clamp(int((rect.bottom() - m_extents.top()) / m_cellH), 0, m_rows - 1);
+    const int c0 = cellOf(rect.left() - m_extents.left(), m_cellW, m_cols);
+    const int c1 = cellOf(rect.right() - m_extents.left(), m_cellW, m_cols);
+    const int r0 = cellOf(rect.top() - m_extents.top(), m_cellH, m_rows);
+    const int r1 = cellOf(rect.bottom() - m_extents.top(), m_cellH, m_rows);
     for (int row = r0; row <= r1; ++row)
       for (int c = c0; c <= c1; ++c)
         for (quint32 i : m_cells[size_t(row) * size_t(m_cols) + size_t(c)]) consider(i);

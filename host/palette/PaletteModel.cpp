@@ -46,9 +46,15 @@ void ZqPaletteModel::setDatabase(OdDbDatabase* db) {
 void ZqPaletteModel::setSelection(const OdDbObjectIdArray& ids) {
   m_selection = ids;
   m_filter = -1;
+  group();
+  if (m_service) m_service->SetSelection(activeObjects());
+  rebuild();
+}
+
+void ZqPaletteModel::group() {
   m_groups.clear();
   QHash<const OdRxClass*, int> groupOf;
-  for (const OdDbObjectId& id : ids) {
+  for (const OdDbObjectId& id : m_selection) {
     OdDbObjectPtr obj = id.openObject();
     if (!obj) continue;
     const OdRxClass* cls = obj->isA();
@@ -59,8 +65,6 @@ void ZqPaletteModel::setSelection(const OdDbObjectIdArray& ids) {
     }
     m_groups[size_t(*it)].ids.append(id);
   }
-  if (m_service) m_service->SetSelection(activeObjects());
-  rebuild();
 }
 
 void ZqPaletteModel::setClassFilter(int group) {
@@ -93,19 +97,20 @@ std::vector<int> ZqPaletteModel::activeGroups() const {
 }
 
 void ZqPaletteModel::refresh() {
-  // Objects erased by an undo drop out; the current item stays.
+  // The same selection, class filter and current item; objects erased by an
+  // undo drop out.
   const CZqVariant index = m_service ? m_service->CurrentIndex() : CZqVariant();
-  const int filter = m_filter;
-  const QString filterName = filter >= 0 ? m_groups[size_t(filter)].name : QString();
+  const OdDbObjectIdArray active = activeObjects();
+  const QString filterName = m_filter >= 0 ? m_groups[size_t(m_filter)].name : QString();
   OdDbObjectIdArray kept;
   for (const OdDbObjectId& id : m_selection) {
     OdDbObjectPtr obj = id.openObject();
     if (obj && !obj->isErased()) kept.append(id);
   }
   m_selection = kept;
-  const OdDbObjectIdArray active = activeObjects();
-  setSelection(kept);
-  if (filter >= 0)
+  group();
+  m_filter = -1;
+  if (!filterName.isEmpty())
     for (int i = 0; i < int(m_groups.size()); ++i)
       if (m_groups[size_t(i)].name == filterName) m_filter = i;
   if (m_service) {
@@ -303,7 +308,7 @@ bool ZqPaletteModel::applyResults(const std::vector<CZqEditResult>& results, QSt
   if (message.isEmpty()) return true;
   if (why) *why = message;
   emit refused(message);
-  return changed.isEmpty() ? false : true;
+  return !changed.isEmpty();
 }
 
 bool ZqPaletteModel::commitText(const QModelIndex& index, const QString& text, QString* why) {

@@ -106,6 +106,7 @@ class ZqPaletteModel : public QAbstractItemModel {
     QString label;
     std::vector<int> rows;  // indices into m_entries
   };
+  void group();
   void rebuild();
   void readValue(Entry& e) const;
   std::vector<int> activeGroups() const;

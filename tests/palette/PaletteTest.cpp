@@ -16,6 +16,7 @@
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QStandardPaths>
 #include <QTest>
 #include <QTreeView>
 #include <cmath>
@@ -39,6 +40,8 @@ class PaletteTest : public ::testing::Test {
     static char name[] = "test_palette";
     static char* argv[] = {name, nullptr};
     if (!qApp) new QApplication(argc, argv);
+    // Recent files go to the test's settings, not the user's.
+    QStandardPaths::setTestModeEnabled(true);
     zqEnsureModuleLoaded();
   }
   void SetUp() override {
