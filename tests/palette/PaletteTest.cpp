@@ -9,6 +9,7 @@
 #include "Listing.h"
 #include "DbCircle.h"
 #include "DbLine.h"
+#include "DbPolyline.h"
 #include <QApplication>
 #include <QComboBox>
 #include <QJsonArray>
@@ -230,6 +231,43 @@ TEST_F(PaletteTest, EditorsFollowTheRowKind) {
   QCoreApplication::processEvents();
   QCoreApplication::processEvents();
   EXPECT_EQ(object<OdDbEntity>("17")->layer().qstring(), QString("Axis"));
+}
+
+// The view's outline of a closed polyline encloses the polyline's area,
+// arcs of its bulges included (computed here from the bulge's definition).
+TEST_F(PaletteTest, OutlinesOfClosedPolylinesEncloseTheirArea) {
+  int arcs = 0;
+  for (const QString& path : {kDemo, kExample}) {
+    if (!QFile::exists(path)) continue;
+    open(path);
+    const ZqDrawingGeometry& g = window->view()->geometry();
+    for (const ZqDrawingGeometry::Item& it : g.items()) {
+      auto pl = OdDbPolyline::cast(it.id.openObject().get());
+      if (!pl || !pl->isClosed() || pl->numVerts() < 2 || it.polyCount != 1) continue;
+      double expected = 0;
+      const unsigned n = pl->numVerts();
+      for (unsigned i = 0; i < n; ++i) {
+        OdGePoint3d p, q;
+        pl->getPointAt(i, p);
+        pl->getPointAt((i + 1) % n, q);
+        expected += (p.x * q.y - q.x * p.y) / 2;
+        if (const double b = pl->getBulgeAt(i); b != 0) {
+          const double theta = 4 * std::atan(b), chord = std::hypot(q.x - p.x, q.y - p.y);
+          const double r = chord / (2 * std::sin(std::fabs(theta) / 2));
+          expected += r * r / 2 * (theta - std::sin(theta));
+          ++arcs;
+        }
+      }
+      const ZqDrawingGeometry::Poly& poly = g.polys()[it.firstPoly];
+      double drawn = 0;
+      for (quint32 k = 0; k < poly.count; ++k) {
+        const QPointF a = g.points()[poly.first + k], c = g.points()[poly.first + (k + 1) % poly.count];
+        drawn += (a.x() * c.y() - c.x() * a.y()) / 2;
+      }
+      EXPECT_NEAR(drawn, expected, std::fabs(expected) * 0.01) << path.toStdString() << " " << pl->objectId().getHandle().ascii().qstring().toStdString();
+    }
+  }
+  EXPECT_GT(arcs, 0) << "no closed polyline with an arc was drawn";
 }
 
 // For each object of a drawing alone, the palette shows the rows zqprops
