@@ -563,6 +563,52 @@ DE.setdefault("errors", {}).update({
     "Rows and columns are counted in whole numbers.": "Zeilen und Spalten werden in ganzen Zahlen gezählt.",
 })
 
+# zqpalette: the window, its menus, the palette and the drawing view.
+DE.setdefault("zqpalette", {}).update({
+    "%1 (%2)": "%1 (%2)",
+    "&Deselect": "Auswahl &aufheben",
+    "&Edit": "&Bearbeiten",
+    "&File": "&Datei",
+    "&Open...": "Ö&ffnen...",
+    "&Quit": "&Beenden",
+    "&Redo": "&Wiederherstellen",
+    "&Save": "&Speichern",
+    "&Undo": "&Rückgängig",
+    "&View": "&Ansicht",
+    "(no drawing)": "(keine Zeichnung)",
+    "... and %1 more objects.": "... und %1 weitere Objekte.",
+    "All (%1)": "Alle (%1)",
+    "Cannot open %1: %2": "%1 kann nicht geöffnet werden: %2",
+    "DXF drawings (*.dxf)": "DXF-Zeichnungen (*.dxf)",
+    "DXF drawings (*.dxf);;All files (*)": "DXF-Zeichnungen (*.dxf);;Alle Dateien (*)",
+    "Edit annotation scales": "Beschriftungsmaßstäbe bearbeiten",
+    "Information": "Information",
+    "Layout%1": "Layout%1",
+    "Model": "Modell",
+    "Open Drawing": "Zeichnung öffnen",
+    "Open": "Öffnen",
+    "Properties": "Eigenschaften",
+    "Property": "Eigenschaft",
+    "Recent Files": "Zuletzt geöffnet",
+    "Redone.": "Wiederhergestellt.",
+    "Save &As...": "Speichern &unter...",
+    "Save Drawing As": "Zeichnung speichern unter",
+    "Save": "Speichern",
+    "Saved %1.": "%1 gespeichert.",
+    "Select &All": "&Alles auswählen",
+    "Select Colour": "Farbe wählen",
+    "Select Colour...": "Farbe wählen...",
+    "The drawing %1 has unsaved changes. Save them?": "Die Zeichnung %1 hat ungespeicherte Änderungen. Speichern?",
+    "Undone.": "Rückgängig gemacht.",
+    "Unsaved changes": "Ungespeicherte Änderungen",
+    "Value": "Wert",
+    "Zoom &Extents": "&Zoom Grenzen",
+    "warning: %1": "Warnung: %1",
+    "zqpalette: cannot write %1": "zqpalette: %1 kann nicht geschrieben werden",
+    "zqpalette: there is no translation catalog for the language \"%1\"; the window stays in English.":
+        "zqpalette: für die Sprache \"%1\" gibt es keinen Übersetzungskatalog; das Fenster bleibt englisch.",
+})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):
