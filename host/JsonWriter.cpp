@@ -100,31 +100,56 @@ ZqJsonWriter& ZqJsonWriter::key(const QString& k) {
 ZqJsonWriter& ZqJsonWriter::value(const char* latin1) {
   // Keys and fixed words are ASCII: no conversion needed.
   separate();
-  m_buffer.push_back('"');
-  appendEscaped(m_buffer, latin1, qsizetype(std::strlen(latin1)));
-  m_buffer.push_back('"');
+  quoteTo(m_buffer, latin1);
   return *this;
 }
 
-ZqJsonWriter& ZqJsonWriter::value(const QString& s) {
-  separate();
-  m_buffer.push_back('"');
+void ZqJsonWriter::quoteTo(std::string& out, const QString& s) {
+  out.push_back('"');
   // Most texts are ASCII: converted straight into a stack buffer.
   char small[256];
   const qsizetype n = s.size();
   bool ascii = n <= qsizetype(sizeof small);
+  const QChar* chars = s.constData();
   for (qsizetype i = 0; ascii && i < n; ++i) {
-    const char16_t c = s[i].unicode();
+    const char16_t c = chars[i].unicode();
     if (c >= 0x80) ascii = false;
     else small[i] = char(c);
   }
   if (ascii) {
-    appendEscaped(m_buffer, small, n);
+    appendEscaped(out, small, n);
   } else {
     const QByteArray utf8 = s.toUtf8();
-    appendEscaped(m_buffer, utf8.constData(), utf8.size());
+    appendEscaped(out, utf8.constData(), utf8.size());
   }
-  m_buffer.push_back('"');
+  out.push_back('"');
+}
+
+void ZqJsonWriter::quoteTo(std::string& out, const char* latin1) {
+  out.push_back('"');
+  appendEscaped(out, latin1, qsizetype(std::strlen(latin1)));
+  out.push_back('"');
+}
+
+ZqJsonWriter& ZqJsonWriter::value(const QString& s) {
+  separate();
+  quoteTo(m_buffer, s);
+  return *this;
+}
+
+ZqJsonWriter& ZqJsonWriter::quotedKey(std::string_view json) {
+  separate();
+  m_buffer.append(json);
+  m_buffer.push_back(':');
+  m_afterKey = true;
+  return *this;
+}
+
+ZqJsonWriter& ZqJsonWriter::objectHead(std::string_view json) {
+  separate();
+  m_buffer.append(json);
+  m_first.push_back(false);
+  m_afterKey = true;
   return *this;
 }
 
