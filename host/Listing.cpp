@@ -2,6 +2,7 @@
 #include "JsonWriter.h"
 #include "ZqSelection.h"
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <string>
@@ -33,7 +34,34 @@ bool ZqRowPicker::picks(const CZqPaletteRow& row) const { return picks(row.categ
 
 CZqPropertiesWindowService::RowFilter ZqRowPicker::filter() const {
   if (all()) return {};
-  return [this](const CZqString& ck, const CZqString& nk, const CZqString& c, const CZqString& n) { return picks(ck, nk, c, n); };
+  // Every object of a kind asks about the same rows, whose texts are shared
+  // strings: the answer is kept by the strings' storage. The memo holds the
+  // strings, so that storage is not freed and taken by other texts while
+  // the memo lives; it stops growing at a limit (rows made afresh for each
+  // object bring new strings every time).
+  struct Memo {
+    struct Entry {
+      QString ck, nk, c, n;
+      bool picked;
+    };
+    struct Hash {
+      size_t operator()(const std::array<const void*, 4>& k) const {
+        size_t h = 0;
+        for (const void* p : k) h = h * 1000003u ^ std::hash<const void*>()(p);
+        return h;
+      }
+    };
+    std::unordered_map<std::array<const void*, 4>, Entry, Hash> answers;
+  };
+  auto memo = std::make_shared<Memo>();
+  return [this, memo](const CZqString& ck, const CZqString& nk, const CZqString& c, const CZqString& n) {
+    const std::array<const void*, 4> key{ck.qstring().constData(), nk.qstring().constData(), c.qstring().constData(),
+                                         n.qstring().constData()};
+    if (auto it = memo->answers.find(key); it != memo->answers.end()) return it->second.picked;
+    const bool picked = picks(ck, nk, c, n);
+    if (memo->answers.size() < 4096) memo->answers.emplace(key, Memo::Entry{ck.qstring(), nk.qstring(), c.qstring(), n.qstring(), picked});
+    return picked;
+  };
 }
 
 bool ZqRowPicker::picks(const CZqString& categoryKey, const CZqString& nameKey, const CZqString& category,
