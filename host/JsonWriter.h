@@ -55,6 +55,6 @@ class ZqJsonWriter {
 
   QIODevice& m_out;
   std::string m_buffer;  // std::string: appending one character is cheap
-  std::vector<bool> m_first;  // per open container: no member written yet
+  std::vector<char> m_first;  // per open container: no member written yet
   bool m_afterKey = false;
 };
