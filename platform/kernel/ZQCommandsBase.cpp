@@ -337,8 +337,9 @@ std::vector<CZqEditResult> CZqPropertiesWindowService::SetValue(const CZqString&
 
 namespace {
 // QString::number(v, 'f', prec) for the values that need nothing of it:
-// finite, not zero, below 1e15 and not exactly halfway between two results
-// (which the two ways of rounding would round apart). False for the others.
+// zero (but not minus zero), and finite values below 1e15 that are not
+// exactly halfway between two results (which the two ways of rounding would
+// round apart). False for the others, which the caller formats as before.
 bool fastFixed(double v, int prec, QString& text) {
   if (prec < 0 || prec > 8) return false;
   if (v == 0 && !std::signbit(v)) {
