@@ -163,7 +163,6 @@ std::vector<CZqPaletteRow> rowsOf(OdDbDatabase* db, const OdDbObjectId& id, cons
 
 QString handleOf(const OdDbObjectId& id) { return id.getHandle().ascii().qstring(); }
 
-
 }  // namespace
 
 void zqPrintRows(QTextStream& out, OdDbDatabase* db, const OdDbObjectId& id, const ZqRowPicker& picker) {
