@@ -26,8 +26,23 @@ int ZqCheckLimit(const CZqPropertyDescription& description, double& v) {
 }
 
 OdDbCoordinateService ZqUcsOf(const OdDbObject* object) {
-  if (OdDbDatabase* db = object ? object->database() : nullptr) return db->coordinateService();
-  return OdDbCoordinateService(OdGePoint3d::kOrigin, OdGeVector3d::kXAxis, OdGeVector3d::kYAxis);
+  // Getters ask for it row by row; its matrices (an inverse among them) are
+  // made again only when the UCS differs from the one asked for last.
+  struct Last {
+    OdGePoint3d origin;
+    OdGeVector3d x = OdGeVector3d::kXAxis, y = OdGeVector3d::kYAxis;
+    OdDbCoordinateService service{OdGePoint3d::kOrigin, OdGeVector3d::kXAxis, OdGeVector3d::kYAxis};
+  };
+  thread_local Last last;
+  const OdDbDatabase* db = object ? object->database() : nullptr;
+  const OdGePoint3d origin = db ? db->getUCSORG() : OdGePoint3d::kOrigin;
+  const OdGeVector3d x = db ? db->getUCSXDIR() : OdGeVector3d::kXAxis;
+  const OdGeVector3d y = db ? db->getUCSYDIR() : OdGeVector3d::kYAxis;
+  if (!(origin == last.origin && x == last.x && y == last.y)) {
+    last.service = OdDbCoordinateService(origin, x, y);
+    last.origin = origin, last.x = x, last.y = y;
+  }
+  return last.service;
 }
 
 bool ZqReplaceUcsCoordinate(const OdDbObject* object, OdGePoint3d& wcsPoint, int axis, double value) {

@@ -55,29 +55,36 @@ ZqJsonWriter& ZqJsonWriter::endArray() {
 }
 
 namespace {
+// Writes the escape of a character a JSON string cannot hold as it is (a
+// quote, a backslash, a control character) at p; returns the end.
+char* escape(char* p, unsigned char u) {
+  static const char hex[] = "0123456789abcdef";
+  *p++ = '\\';
+  switch (u) {
+    case '"': *p++ = '"'; break;
+    case '\\': *p++ = '\\'; break;
+    case '\n': *p++ = 'n'; break;
+    case '\r': *p++ = 'r'; break;
+    case '\t': *p++ = 't'; break;
+    case '\b': *p++ = 'b'; break;
+    case '\f': *p++ = 'f'; break;
+    default:
+      *p++ = 'u', *p++ = '0', *p++ = '0', *p++ = hex[u >> 4], *p++ = hex[u & 15];
+  }
+  return p;
+}
+
 // Appends text as the inside of a JSON string: runs without anything to
 // escape go in one piece.
 void appendEscaped(std::string& buffer, const char* s, qsizetype n) {
-  static const char hex[] = "0123456789abcdef";
   qsizetype run = 0;
   for (qsizetype i = 0; i < n; ++i) {
     const auto u = static_cast<unsigned char>(s[i]);
     if (u >= 0x20 && u != '"' && u != '\\') continue;
     buffer.append(s + run, size_t(i - run));
     run = i + 1;
-    switch (u) {
-      case '"': buffer.append("\\\"", 2); break;
-      case '\\': buffer.append("\\\\", 2); break;
-      case '\n': buffer.append("\\n", 2); break;
-      case '\r': buffer.append("\\r", 2); break;
-      case '\t': buffer.append("\\t", 2); break;
-      case '\b': buffer.append("\\b", 2); break;
-      case '\f': buffer.append("\\f", 2); break;
-      default: {
-        const char esc[6] = {'\\', 'u', '0', '0', hex[u >> 4], hex[u & 15]};
-        buffer.append(esc, 6);
-      }
-    }
+    char esc[6];
+    buffer.append(esc, size_t(escape(esc, u) - esc));
   }
   buffer.append(s + run, size_t(n - run));
 }
@@ -100,31 +107,77 @@ ZqJsonWriter& ZqJsonWriter::key(const QString& k) {
 ZqJsonWriter& ZqJsonWriter::value(const char* latin1) {
   // Keys and fixed words are ASCII: no conversion needed.
   separate();
-  m_buffer.push_back('"');
-  appendEscaped(m_buffer, latin1, qsizetype(std::strlen(latin1)));
-  m_buffer.push_back('"');
+  quoteTo(m_buffer, latin1);
   return *this;
 }
 
-ZqJsonWriter& ZqJsonWriter::value(const QString& s) {
-  separate();
-  m_buffer.push_back('"');
+void ZqJsonWriter::quoteTo(std::string& out, const QString& s) {
+  out.push_back('"');
   // Most texts are ASCII: converted straight into a stack buffer.
   char small[256];
   const qsizetype n = s.size();
   bool ascii = n <= qsizetype(sizeof small);
+  const QChar* chars = s.constData();
   for (qsizetype i = 0; ascii && i < n; ++i) {
-    const char16_t c = s[i].unicode();
+    const char16_t c = chars[i].unicode();
     if (c >= 0x80) ascii = false;
     else small[i] = char(c);
   }
   if (ascii) {
-    appendEscaped(m_buffer, small, n);
+    appendEscaped(out, small, n);
   } else {
     const QByteArray utf8 = s.toUtf8();
-    appendEscaped(m_buffer, utf8.constData(), utf8.size());
+    appendEscaped(out, utf8.constData(), utf8.size());
   }
-  m_buffer.push_back('"');
+  out.push_back('"');
+}
+
+void ZqJsonWriter::quoteTo(std::string& out, const char* latin1) {
+  out.push_back('"');
+  appendEscaped(out, latin1, qsizetype(std::strlen(latin1)));
+  out.push_back('"');
+}
+
+ZqJsonWriter& ZqJsonWriter::value(const QString& s) {
+  separate();
+  // ASCII text (nearly all) goes straight into the buffer in one pass, with
+  // room made for the longest escapes first; other text through UTF-8.
+  const qsizetype n = s.size();
+  const size_t at = m_buffer.size();
+  m_buffer.resize(at + 2 + 6 * size_t(n));
+  char* p = m_buffer.data() + at;
+  *p++ = '"';
+  const QChar* c = s.constData();
+  for (qsizetype i = 0; i < n; ++i) {
+    const char16_t u = c[i].unicode();
+    if (u >= 0x20 && u < 0x80 && u != '"' && u != '\\') {
+      *p++ = char(u);
+    } else if (u < 0x80) {
+      p = escape(p, static_cast<unsigned char>(u));
+    } else {
+      m_buffer.resize(at);
+      quoteTo(m_buffer, s);
+      return *this;
+    }
+  }
+  *p++ = '"';
+  m_buffer.resize(size_t(p - m_buffer.data()));
+  return *this;
+}
+
+ZqJsonWriter& ZqJsonWriter::quotedKey(std::string_view json) {
+  separate();
+  m_buffer.append(json);
+  m_buffer.push_back(':');
+  m_afterKey = true;
+  return *this;
+}
+
+ZqJsonWriter& ZqJsonWriter::objectHead(std::string_view json) {
+  separate();
+  m_buffer.append(json);
+  m_first.push_back(false);
+  m_afterKey = true;
   return *this;
 }
 

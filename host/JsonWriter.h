@@ -8,6 +8,7 @@
 #include <QString>
 #include <QVariant>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class ZqJsonWriter {
@@ -22,6 +23,8 @@ class ZqJsonWriter {
   // The key of the next member of the current object.
   ZqJsonWriter& key(const char* latin1Key);
   ZqJsonWriter& key(const QString& key);
+  // A key given as its JSON text, quotes included ("\"text\""): written as it is.
+  ZqJsonWriter& quotedKey(std::string_view json);
 
   ZqJsonWriter& value(const QString& s);
   ZqJsonWriter& value(const char* latin1);
@@ -34,6 +37,14 @@ class ZqJsonWriter {
   // Numbers, strings, bools, null and (nested) lists of them.
   ZqJsonWriter& value(const QVariant& v);
 
+  // Prepared JSON text that a listing writes for many objects alike: the
+  // start of a member object up to and including the key of its next
+  // member, as in `"k":{"a":1,"b":` (quoteTo writes its strings).
+  ZqJsonWriter& objectHead(std::string_view json);
+  // Appends text as a quoted, escaped JSON string to out.
+  static void quoteTo(std::string& out, const QString& text);
+  static void quoteTo(std::string& out, const char* latin1);
+
   void flush();
 
  private:
@@ -44,6 +55,6 @@ class ZqJsonWriter {
 
   QIODevice& m_out;
   std::string m_buffer;  // std::string: appending one character is cheap
-  std::vector<bool> m_first;  // per open container: no member written yet
+  std::vector<char> m_first;  // per open container: no member written yet
   bool m_afterKey = false;
 };

@@ -1,7 +1,12 @@
 #include "Listing.h"
 #include "JsonWriter.h"
 #include "ZqSelection.h"
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <string>
+#include <unordered_map>
 
 QString zqDisplayName(const OdDbObject* object) {
   CZqPropertyBase* pe = CZqPropertyPEClassFactory::providerFor(object);
@@ -29,7 +34,34 @@ bool ZqRowPicker::picks(const CZqPaletteRow& row) const { return picks(row.categ
 
 CZqPropertiesWindowService::RowFilter ZqRowPicker::filter() const {
   if (all()) return {};
-  return [this](const CZqString& ck, const CZqString& nk, const CZqString& c, const CZqString& n) { return picks(ck, nk, c, n); };
+  // Every object of a kind asks about the same rows, whose texts are shared
+  // strings: the answer is kept by the strings' storage. The memo holds the
+  // strings, so that storage is not freed and taken by other texts while
+  // the memo lives; it stops growing at a limit (rows made afresh for each
+  // object bring new strings every time).
+  struct Memo {
+    struct Entry {
+      QString ck, nk, c, n;
+      bool picked;
+    };
+    struct Hash {
+      size_t operator()(const std::array<const void*, 4>& k) const {
+        size_t h = 0;
+        for (const void* p : k) h = h * 1000003u ^ std::hash<const void*>()(p);
+        return h;
+      }
+    };
+    std::unordered_map<std::array<const void*, 4>, Entry, Hash> answers;
+  };
+  auto memo = std::make_shared<Memo>();
+  return [this, memo](const CZqString& ck, const CZqString& nk, const CZqString& c, const CZqString& n) {
+    const std::array<const void*, 4> key{ck.qstring().constData(), nk.qstring().constData(), c.qstring().constData(),
+                                         n.qstring().constData()};
+    if (auto it = memo->answers.find(key); it != memo->answers.end()) return it->second.picked;
+    const bool picked = picks(ck, nk, c, n);
+    if (memo->answers.size() < 4096) memo->answers.emplace(key, Memo::Entry{ck.qstring(), nk.qstring(), c.qstring(), n.qstring(), picked});
+    return picked;
+  };
 }
 
 bool ZqRowPicker::picks(const CZqString& categoryKey, const CZqString& nameKey, const CZqString& category,
@@ -57,6 +89,28 @@ QStringList ZqRowPicker::unused() const {
 
 namespace {
 
+// QString::toDouble, but plain decimal numbers ("12.5", "-3e-4") are read
+// without going through the locale's conversion.
+double toNumber(const QString& text, bool& ok) {
+  char buf[64];
+  const qsizetype n = text.size();
+  bool plain = n < qsizetype(sizeof buf);
+  for (qsizetype i = 0; plain && i < n; ++i) {
+    const char16_t c = text[i].unicode();
+    plain = (c >= '0' && c <= '9') || c == '.' || c == '-' || c == 'e' || c == 'E' || (c == '+' && i > 0);
+    buf[i] = char(c);
+  }
+  if (plain) {
+    double d = 0;
+    const auto r = std::from_chars(buf, buf + n, d);
+    if (r.ec == std::errc() && r.ptr == buf + n && std::isfinite(d)) {
+      ok = true;
+      return d;
+    }
+  }
+  return text.toDouble(&ok);
+}
+
 // The value of a row: full-precision numbers, strings, the tag of an
 // enumeration's current choice, null where there is no single value.
 void writeValue(ZqJsonWriter& w, const CZqVariant& v, bool untyped = false) {
@@ -66,7 +120,7 @@ void writeValue(ZqJsonWriter& w, const CZqVariant& v, bool untyped = false) {
       // A computed figure some providers hand over as text (an area) is a number.
       const QString text = v.GetString().qstring();
       bool number = false;
-      const double d = untyped && !text.isEmpty() ? text.toDouble(&number) : 0.0;
+      const double d = untyped && !text.isEmpty() ? toNumber(text, number) : 0.0;
       if (number && std::isfinite(d)) w.value(d);
       else w.value(text);
       return;
@@ -92,9 +146,9 @@ void writeValue(ZqJsonWriter& w, const CZqVariant& v, bool untyped = false) {
 }
 
 void writeChoices(ZqJsonWriter& w, const CZqVariantCollection& c) {
-  w.key("choices").beginArray();
+  w.quotedKey(R"("choices")").beginArray();
   for (int i = 0; i < c.GetCount(); ++i) {
-    w.beginObject().key("text").value(c.GetAt(i).GetValue().GetString().qstring()).key("tag");
+    w.beginObject().quotedKey(R"("text")").value(c.GetAt(i).GetValue().GetString().qstring()).quotedKey(R"("tag")");
     writeValue(w, c.GetAt(i).GetTag());
     w.endObject();
   }
@@ -108,11 +162,6 @@ std::vector<CZqPaletteRow> rowsOf(OdDbDatabase* db, const OdDbObjectId& id, cons
 }
 
 QString handleOf(const OdDbObjectId& id) { return id.getHandle().ascii().qstring(); }
-
-QString layerOf(const OdDbObject* obj) {
-  const OdDbEntity* e = odrxCast<OdDbEntity>(obj);
-  return e ? e->layer().qstring() : QString();
-}
 
 }  // namespace
 
@@ -145,35 +194,148 @@ void zqPrintInfo(QTextStream& out, OdDbDatabase* db, const OdDbObjectId& id, boo
   out << "\n";
 }
 
+namespace {
+
+// What a listing writes alike for every object with a row: the row's key
+// and texts up to its "value" key, prepared once per row and not per object.
+struct RowHead {
+  std::string json;
+  int key = 0;   // the row key's number, to tell a repeated key within one object
+  int type = 0;  // the editor kind the text was made with
+};
+
+class RowHeads {
+ public:
+  // The head of a row. Rows of a provider's shared list are the same
+  // description for every object; rows made afresh for one object are
+  // known by the row record they were built from.
+  const RowHead& of(const CZqPropertyDescription& d) {
+    const int type = d.GetType().GetType();
+    const void* id = d.IsDynamic() ? d.GetRowData() : static_cast<const void*>(&d);
+    if (!id) {
+      m_scratch = make(d, type, QString());
+      return m_scratch;
+    }
+    auto& map = d.IsDynamic() ? m_byRowData : m_byDescription;
+    auto it = map.find(id);
+    if (it == map.end() || it->second.type != type) it = map.insert_or_assign(id, make(d, type, QString())).first;
+    return it->second;
+  }
+  // The head of a row whose key repeats within one object: "Key#n".
+  RowHead repeated(const CZqPropertyDescription& d, int n) {
+    return make(d, d.GetType().GetType(), QStringLiteral("#%1").arg(n));
+  }
+
+ private:
+  RowHead make(const CZqPropertyDescription& d, int type, const QString& suffix) {
+    const QString categoryKey = d.GetCategoryKey().qstring(), nameKey = d.GetNameKey().qstring();
+    const QString key = categoryKey + '/' + nameKey;
+    RowHead h;
+    h.type = type;
+    h.key = m_keys.emplace(key, int(m_keys.size())).first->second;
+    ZqJsonWriter::quoteTo(h.json, key + suffix);
+    h.json += ":{\"category\":";
+    ZqJsonWriter::quoteTo(h.json, categoryKey);
+    h.json += ",\"name\":";
+    ZqJsonWriter::quoteTo(h.json, nameKey);
+    h.json += ",\"categoryLabel\":";
+    ZqJsonWriter::quoteTo(h.json, d.GetCategory().qstring());
+    h.json += ",\"label\":";
+    ZqJsonWriter::quoteTo(h.json, d.GetName().qstring());
+    h.json += ",\"type\":" + std::to_string(type) + ",\"value\":";
+    return h;
+  }
+
+  std::unordered_map<const void*, RowHead> m_byDescription, m_byRowData;
+  std::unordered_map<QString, int> m_keys;
+  RowHead m_scratch;
+};
+
+// The members every object of one class served by one provider has alike:
+// its DXF type, class and provider.
+class KindHeads {
+ public:
+  const std::string& of(const OdDbObject* obj) {
+    const OdRxClass* cls = obj ? obj->isA() : nullptr;
+    CZqPropertyBase* pe = obj ? CZqPropertyPEClassFactory::providerFor(obj) : nullptr;
+    auto it = m_heads.find({cls, pe});
+    if (it != m_heads.end()) return it->second;
+    std::string json = ",\"type\":";
+    ZqJsonWriter::quoteTo(json, cls ? cls->dxfName().qstring() : QString());
+    json += ",\"class\":";
+    ZqJsonWriter::quoteTo(json, cls ? cls->name().qstring() : QString());
+    json += ",\"provider\":";
+    ZqJsonWriter::quoteTo(json, pe && pe->isA() ? pe->isA()->name().qstring() : QString());
+    json += ",\"name\":";
+    return m_heads.emplace(std::pair{cls, pe}, std::move(json)).first->second;
+  }
+
+ private:
+  struct Hash {
+    size_t operator()(const std::pair<const OdRxClass*, CZqPropertyBase*>& k) const {
+      return std::hash<const void*>()(k.first) * 31 + std::hash<const void*>()(k.second);
+    }
+  };
+  std::unordered_map<std::pair<const OdRxClass*, CZqPropertyBase*>, std::string, Hash> m_heads;
+};
+
+}  // namespace
+
 void zqWriteListingJson(QIODevice& out, const QString& drawing, OdDbDatabase* db, const OdDbObjectIdArray& ids,
                         const ZqJsonContent& content) {
   ZqJsonWriter w(out);
+  RowHeads rowHeads;
+  KindHeads kindHeads;
+  // Layers and owners are few: their names are looked up once.
+  std::unordered_map<const OdDbStub*, QString> layerNames;
+  std::unordered_map<const OdDbStub*, CZqObjectPlace> places;
+  const CZqPropertiesWindowService::RowFilter filter = content.pick.filter();
+  std::vector<int> keys;  // the row keys of the current object so far
+  std::string head;
   w.beginObject().key("drawing").value(drawing).key("objects").beginArray();
   for (const OdDbObjectId& id : ids) {
-    w.beginObject().key("handle").value(handleOf(id));
+    // Opened once, for the object's members and its rows.
+    CZqObjectRows rows(id, kZqVisPalette, filter);
+    const OdDbObject* obj = rows.object();
+    head = "{\"handle\":";
+    ZqJsonWriter::quoteTo(head, handleOf(id));
+    head += kindHeads.of(obj);
+    w.objectHead(head).value(obj ? zqDisplayName(obj) : QString());
+    const OdDbEntity* e = odrxCast<OdDbEntity>(obj);
+    if (e) {
+      auto it = layerNames.find(e->layerId().stub());
+      if (it == layerNames.end()) it = layerNames.emplace(e->layerId().stub(), e->layer().qstring()).first;
+      w.key("layer").value(it->second);
+    } else {
+      w.key("layer").value(QString());
+    }
     {
-      OdDbObjectPtr obj = id.openObject();
-      const CZqObjectPlace place = CZqObjectPlace::Of(obj.get());
-      w.key("type").value(obj ? obj->isA()->dxfName().qstring() : QString());
-      w.key("class").value(obj ? obj->isA()->name().qstring() : QString());
-      w.key("provider").value(zqProviderName(obj.get()));
-      w.key("name").value(obj ? zqDisplayName(obj.get()) : QString());
-      w.key("layer").value(layerOf(obj.get()));
-      w.key("space").value(place.space).key("block").value(place.block);
+      const OdDbObjectId owner = obj ? obj->ownerId() : OdDbObjectId();
+      auto it = places.find(owner.stub());
+      if (it == places.end()) it = places.emplace(owner.stub(), CZqObjectPlace::Of(obj)).first;
+      w.key("space").value(it->second.space).key("block").value(it->second.block);
     }
     if (content.rows) {
       w.key("rows").beginObject();
-      QHash<QString, int> seen;  // a key repeated within one object gets "#2", "#3", ...
-      for (const CZqPaletteRow& r : rowsOf(db, id, content.pick)) {
-        QString key = zqRowKey(r);
-        if (const int n = ++seen[key]; n > 1) key += QStringLiteral("#%1").arg(n);
-        w.key(key).beginObject();
-        w.key("category").value(r.categoryKey.qstring()).key("name").value(r.nameKey.qstring());
-        w.key("categoryLabel").value(r.category.qstring()).key("label").value(r.name.qstring());
-        w.key("type").value(r.type.GetType()).key("value");
-        if (r.varies) w.null(); else writeValue(w, r.value, r.type.GetType() == CZqVariant::kVtDouble || (r.type.GetType() == 0 && r.readOnly));
-        w.key("text").value(r.text.qstring()).key("readOnly").value(r.readOnly);
-        if (r.sample.GetType() == CZqVariant::kVtCollection) writeChoices(w, r.sample.GetCollection());
+      keys.clear();
+      for (int i = 0; i < rows.size(); ++i) {
+        const CZqPropertyDescription& d = rows.at(i);
+        const RowHead* h = &rowHeads.of(d);
+        RowHead again;
+        if (const int n = int(std::count(keys.begin(), keys.end(), h->key)) + 1; n > 1) {
+          again = rowHeads.repeated(d, n);
+          h = &again;
+        }
+        keys.push_back(h->key);
+        w.objectHead(h->json);
+        // The values a selection of this object alone shows (see
+        // CZqPropertiesWindowService::Rows): read once, formatted once.
+        const CZqVariant value = d.GetValue(obj, CZqVariant());
+        const bool readOnly = d.IsReadOnly(obj);
+        writeValue(w, value, h->type == CZqVariant::kVtDouble || (h->type == 0 && readOnly));
+        w.quotedKey(R"("text")").value(CZqPropertiesWindowService::FormatValue(db, value, d.GetType()).qstring());
+        w.quotedKey(R"("readOnly")").value(readOnly);
+        if (value.GetType() == CZqVariant::kVtCollection) writeChoices(w, value.GetCollection());
         w.endObject();
       }
       w.endObject();

@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <QHash>
 #include <optional>
@@ -130,6 +131,45 @@ std::vector<CZqPaletteRow> CZqPropertiesWindowService::Rows(unsigned requiredBit
   }
   return out;
 }
+
+CZqObjectRows::CZqObjectRows(const OdDbObjectId& id, unsigned requiredBits,
+                             const CZqPropertiesWindowService::RowFilter& want, OdDb::OpenMode mode) {
+  ObjectRows o = rowsOf(id, mode);
+  m_object = o.object;
+  m_container = std::move(o.container);
+  if (!m_container) return;
+  // Grouped by category in order of first appearance, as Rows groups them;
+  // a provider lists its rows grouped already, so this is mostly a copy.
+  struct Entry {
+    int category;
+    const CZqPropertyDescription* d;
+  };
+  std::vector<Entry> entries;
+  entries.reserve(size_t(m_container->GetCount()));
+  std::vector<QString> categories;
+  bool grouped = true;
+  for (int i = 0; i < m_container->GetCount(); ++i) {
+    const CZqPropertyDescription* d = m_container->GetAt(i);
+    if ((d->GetVisibility() & requiredBits) != requiredBits) continue;
+    if (want && !want(d->GetCategoryKey(), d->GetNameKey(), d->GetCategory(), d->GetName())) continue;
+    const QString cat = d->GetCategory().qstring();
+    int c = int(categories.size());
+    if (!categories.empty() && categories.back() == cat) {
+      c = c - 1;
+    } else {
+      auto it = std::find(categories.begin(), categories.end(), cat);
+      if (it == categories.end()) categories.push_back(cat);
+      else grouped = false, c = int(it - categories.begin());
+    }
+    entries.push_back({c, d});
+  }
+  if (!grouped)
+    std::stable_sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) { return a.category < b.category; });
+  m_rows.reserve(entries.size());
+  for (const Entry& e : entries) m_rows.push_back(e.d);
+}
+
+CZqObjectRows::~CZqObjectRows() = default;
 
 const CZqPaletteRow* CZqPropertiesWindowService::FindRow(const std::vector<CZqPaletteRow>& rows, const QString& name,
                                                          QString* why) const {
@@ -295,6 +335,31 @@ std::vector<CZqEditResult> CZqPropertiesWindowService::SetValue(const CZqString&
   return results;
 }
 
+namespace {
+// QString::number(v, 'f', prec) for the values that need nothing of it:
+// zero (but not minus zero), and finite values below 1e15 that are not
+// exactly halfway between two results (which the two ways of rounding would
+// round apart). False for the others, which the caller formats as before.
+bool fastFixed(double v, int prec, QString& text) {
+  if (prec < 0 || prec > 8) return false;
+  if (v == 0 && !std::signbit(v)) {
+    static const QString zeros[9] = {"0", "0.0", "0.00", "0.000", "0.0000", "0.00000", "0.000000", "0.0000000", "0.00000000"};
+    text = zeros[prec];
+    return true;
+  }
+  if (!(v != 0 && std::fabs(v) < 1e15)) return false;
+  // Halfway: v * 10^prec ends in exactly .5, so v * 2^(prec+1) is an odd
+  // whole number.
+  const double twice = std::ldexp(v, prec + 1);
+  if (twice == std::trunc(twice) && std::fmod(twice, 2.0) != 0) return false;
+  char buf[40];
+  const auto r = std::to_chars(buf, buf + sizeof buf, v, std::chars_format::fixed, prec);
+  if (r.ec != std::errc()) return false;
+  text = QString::fromLatin1(buf, r.ptr - buf);
+  return true;
+}
+}  // namespace
+
 CZqString CZqPropertiesWindowService::FormatValue(const OdDbDatabase* db, const CZqVariant& value,
                                                   const CZqCustomPropertyType& type) {
   const QString id = type.GetTypeId().qstring();
@@ -303,8 +368,25 @@ CZqString CZqPropertiesWindowService::FormatValue(const OdDbDatabase* db, const 
     case CZqVariant::kVtDouble: {
       const double d = value.GetDouble();
       if (db && CZqPropertyType::isAngle(id)) return CZqString(db->formatter().formatAngle(d));
-      if (db && value.IsUnits()) return CZqString(db->formatter().formatDistance(d));
-      return CZqString(QString::number(d, 'f', db ? db->getLUPREC() : 4));
+      if (db && value.IsUnits()) {
+        // Decimal units are most drawings' and most rows': written directly,
+        // as the formatter writes them (a value that rounds to zero without
+        // its minus sign).
+        const OdDbUnitsSettings units = db->unitsSettings();
+        QString text;
+        if ((units.lunits < 1 || units.lunits == 2 || units.lunits > 5) &&
+            fastFixed(d, std::clamp(units.luprec, 0, 8), text)) {
+          if (text.startsWith(u'-') &&
+              std::all_of(text.begin() + 1, text.end(), [](QChar c) { return c == u'0' || c == u'.'; }))
+            text.remove(0, 1);
+          return CZqString(text);
+        }
+        return CZqString(db->formatter().formatDistance(d));
+      }
+      const int prec = db ? db->getLUPREC() : 4;
+      QString text;
+      if (fastFixed(d, prec, text)) return CZqString(text);
+      return CZqString(QString::number(d, 'f', prec));
     }
     case CZqVariant::kVtString: return value.GetString();
     case CZqVariant::kVtInt32:

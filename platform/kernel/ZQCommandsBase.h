@@ -8,6 +8,7 @@
 #include "CZqCloudBase.h"
 #include "CZqDocument.h"
 #include <functional>
+#include <memory>
 #include <vector>
 
 // Base of the host's commands: the command group, error handling around the
@@ -121,6 +122,33 @@ class ZQKERNEL_API CZqPropertiesWindowService {
   OdDbDatabase* m_db;
   OdDbObjectIdArray m_selection;
   CZqVariant m_index;
+};
+
+// The palette rows of one object, in the order Rows gives them for a
+// selection of that object alone, but neither read nor formatted: a listing
+// reads and formats only what it prints, an edit calls only the row it
+// changes.
+class ZQKERNEL_API CZqObjectRows {
+ public:
+  // The rows of the object with every bit of requiredBits; only those
+  // `want` accepts when it is given.
+  explicit CZqObjectRows(const OdDbObjectId& id, unsigned requiredBits = kZqVisPalette,
+                         const CZqPropertiesWindowService::RowFilter& want = {}, OdDb::OpenMode mode = OdDb::kForRead);
+  ~CZqObjectRows();
+  CZqObjectRows(const CZqObjectRows&) = delete;
+  CZqObjectRows& operator=(const CZqObjectRows&) = delete;
+
+  // The opened object (null when it could not be opened).
+  const OdDbObject* object() const { return m_object.get(); }
+  // Whether a provider serves the object (an object without one has no rows).
+  bool hasProvider() const { return m_container != nullptr; }
+  int size() const { return int(m_rows.size()); }
+  const CZqPropertyDescription& at(int i) const { return *m_rows[size_t(i)]; }
+
+ private:
+  OdDbObjectPtr m_object;
+  std::unique_ptr<CZqPropertiesContainer> m_container;
+  std::vector<const CZqPropertyDescription*> m_rows;
 };
 
 // Length and area of curves, as the selection totals use them.

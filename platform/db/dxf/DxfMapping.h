@@ -69,13 +69,27 @@ struct MapError {
 // A symbol table's records by name, compared without case.
 class NameIndex {
  public:
-  OdDbObjectId find(const QString& name) const { return m_ids.value(name.toCaseFolded()); }
+  OdDbObjectId find(const QString& name) const {
+    // Entity after entity names the same few records: the last answer is
+    // kept, so most lookups neither fold case nor hash.
+    if (m_hasLast && name == m_lastName) return m_lastId;
+    m_lastId = m_ids.value(name.toCaseFolded());
+    m_lastName = name;
+    m_hasLast = true;
+    return m_lastId;
+  }
   // Keeps the first record of a name; false if the name was taken.
   bool add(const QString& name, const OdDbObjectId& id);
-  void clear() { m_ids.clear(); }
+  void clear() {
+    m_ids.clear();
+    m_hasLast = false;
+  }
 
  private:
   QHash<QString, OdDbObjectId> m_ids;
+  mutable QString m_lastName;
+  mutable OdDbObjectId m_lastId;
+  mutable bool m_hasLast = false;
 };
 
 // What the mapper knows about the drawing it reads or writes.

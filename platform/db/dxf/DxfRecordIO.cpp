@@ -20,6 +20,7 @@ bool NameIndex::add(const QString& name, const OdDbObjectId& id) {
   const QString key = name.toCaseFolded();
   if (m_ids.contains(key)) return false;
   m_ids.insert(key, id);
+  m_hasLast = false;
   return true;
 }
 

@@ -1,6 +1,8 @@
 // The host kernel: variants, the information sink, and the
 // properties-window service on a selection.
 #include "ZqTestSupport.h"
+#include "OdDbUnitsFormatter.h"
+#include <limits>
 
 namespace {
 
@@ -135,3 +137,26 @@ TEST_F(KernelTest, GeneralRowsValidateTheirValues) {
 }
 
 }  // namespace
+
+// The palette's texts of numbers are written without the formatter where
+// that gives the same text: compared with the formatter and with
+// QString::number on values that round apart (halfway cases), round to
+// zero, are negative zero, huge or not finite, at every precision.
+TEST_F(KernelTest, NumberTextsAreTheFormattersAtEveryPrecision) {
+  const double values[] = {0.0, -0.0, 1.0, -1.0, 0.125, -0.125, 0.03125, 2.5, 0.5, 1.0 / 3, -2.0 / 3, 12.3456789,
+                           -0.00001, 0.00004999, 123456.78125, 1e14 + 0.5, 1e15, -1e300, 5e-324,
+                           std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()};
+  const CZqCustomPropertyType plain(CZqVariant::kVtDouble, CZqString());
+  for (int lunits : {2, 1, 4})
+    for (int prec = 0; prec <= 8; ++prec) {
+      db->setLUNITS(lunits);
+      db->setLUPREC(prec);
+      for (double v : values) {
+        SCOPED_TRACE(testing::Message() << "lunits " << lunits << " prec " << prec << " value " << v);
+        EXPECT_EQ(CZqPropertiesWindowService::FormatValue(db.get(), CZqVariant(v, true), plain).qstring(),
+                  db->formatter().formatDistance(v).qstring());
+        EXPECT_EQ(CZqPropertiesWindowService::FormatValue(db.get(), CZqVariant(v, false), plain).qstring(),
+                  QString::number(v, 'f', prec));
+      }
+    }
+}
