@@ -547,10 +547,11 @@ bool isTolerancePrecisionReadOnly(const OdDbObject* object, const CZqPropertyDes
   return dim && toleranceDisplayOf(dim) == 0;
 }
 
-bool isAnnotative(const OdDbObject* object) {
-  const D* dim = ZqReadable<D>(object);
-  if (!dim) return false;
-  const OdResBufPtr data = dim->xData(OdString("AcadAnnotative"));
+}  // namespace
+
+bool ZqDim::isAnnotative(const OdDbObject* object) {
+  if (!object || !object->isReadEnabled()) return false;
+  const OdResBufPtr data = object->xData(OdString("AcadAnnotative"));
   if (!data) return false;
   // {"AnnotativeData" { 1070 1 1070 1 }}: the second integer says annotative.
   int seen = 0;
@@ -558,6 +559,8 @@ bool isAnnotative(const OdDbObject* object) {
     if (p->restype() == OdResBuf::kDxfXdInteger16 && ++seen == 2) return p->getInt64() != 0;
   return false;
 }
+namespace {
+
 bool isScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription&) { return isAnnotative(object); }
 
 // Inspection: kept as the dimension's "ACAD_DSTYLE_DIMINSPECT" extended
@@ -967,19 +970,21 @@ ZQ_DEFINE_PROVIDER(CZqDimension2ArrowPE, nullptr, kTwoArrowRows)
 void CZqDimensionInfo::PrintDimStyleOverrides(const OdDbObject* object, CZqPrintInfoContext* context) {
   const D* dim = ZqReadable<D>(object);
   if (!dim || !context) return;
+  ZqPrintDimStyleOverrides(object, dim->dimensionStyle(), context);
+}
+
+void ZqPrintDimStyleOverrides(const OdDbObject* object, const OdDbObjectId& styleId, CZqPrintInfoContext* context) {
   OdRxClass* recordClass = OdDbDimStyleTableRecord::desc();
   if (!recordClass) {
     context->PrintString(CZqString("OdDbOdDbDimStyleTableRecordis not loaded"));
     return;
   }
-  OdDbDimStyleTableRecordPtr effective = OdDbDimStyleTableRecord::createObject();
-  dim->getDimstyleData(effective.get());
-  OdDbObjectPtr styleObject = dim->dimensionStyle().isNull() ? OdDbObjectPtr() : dim->dimensionStyle().openObject();
+  OdDbObjectPtr styleObject = styleId.isNull() ? OdDbObjectPtr() : styleId.openObject();
   const auto* style = odrxCast<OdDbDimStyleTableRecord>(styleObject.get());
   bool header = false;
-  for (int k = 0; k < dv::kCount; ++k) {
-    const dv::Id id = dv::Id(k);
-    const dv::Value& v = effective->dimVar(id);
+  for (const OdDbDimStyleOverrides::Line& line : OdDbDimStyleOverrides::effective(object, style)) {
+    const dv::Id id = line.id;
+    const dv::Value& v = line.value;
     const dv::Value base = style ? style->dimVar(id) : dv::info(id).defaultValue();
     if (v == base) continue;
     if (!header) {

@@ -495,6 +495,24 @@ DE.setdefault("OdDbAcis", {}).update({
     "The body has free-form geometry, which cannot be moved here.": "Der Körper hat Freiformgeometrie, die hier nicht verschoben werden kann.",
 })
 
+# Leaders, multileaders and tolerance frames
+DE.setdefault("entity_types", {}).update({"Leader": "Führung", "Tolerance": "Toleranz"})
+DE.setdefault("CZqLeaderPE", {}).update({"Edit annotation scales": "Beschriftungsmaßstäbe bearbeiten"})
+DE.setdefault("CZqFcfPE", {}).update({"Edit annotation scales": "Beschriftungsmaßstäbe bearbeiten"})
+DE.setdefault("property_types", {}).update({
+    "DimStyle": "Bemaßungsstil", "DimScale overall": "Bemaßungsgesamtmaßstab", "Type": "Typ",
+    "Vertex x": "Scheitelpunkt X", "Vertex y": "Scheitelpunkt Y", "Vertex z": "Scheitelpunkt Z",
+})
+DE.setdefault("property_values", {}).update({
+    "Line with no arrow": "Linie ohne Pfeil", "Spline with no arrow": "Spline ohne Pfeil",
+    "Line with arrow": "Linie mit Pfeil", "Spline with arrow": "Spline mit Pfeil",
+})
+DE.setdefault("info_items", {}).update({
+    "Normal": "Normale", "Horizontal direction": "Horizontale Richtung", "Hook Line": "Hakenlinie",
+    "Vertex": "Scheitelpunkt", "Arrow": "Pfeil",
+})
+DE.setdefault("info_values", {}).update({"leader": "Führung"})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

@@ -20,6 +20,8 @@
 #include "DbSymbolTable.h"
 #include "DbDimStyle.h"
 #include "DbDimension.h"
+#include "DbLeader.h"
+#include "DbFcf.h"
 #include "DbModelerGeometry.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \

@@ -382,6 +382,9 @@ constexpr ClassMapping kEntities[] = {
     {"DIMENSION",  &OdDbOrdinateDimension::desc,      0, &fieldsOf<OdDbDimension, ordinateDimensionFields>,          false},
     {"ARC_DIMENSION", &OdDbArcDimension::desc,        1015, &fieldsOf<OdDbDimension, arcDimensionFields>,            false},
     {"LARGE_RADIAL_DIMENSION", &OdDbRadialDimensionLarge::desc, 1015, &fieldsOf<OdDbDimension, largeRadialDimensionFields>, false},
+    // Leaders: the colour of 77 and the block offset of 212 are kept as they are.
+    {"LEADER",     &OdDbLeader::desc,      0,    &fieldsOf<OdDbLeader, leaderFields>,               false, true},
+    {"TOLERANCE",  &OdDbFcf::desc,         0,    &fieldsOf<OdDbFcf, fcfFields>,                     false},
     // Arc-aligned text: its font names and the arc it follows are not mapped.
     {"ARCALIGNEDTEXT", &OdDbArcAlignedText::desc, 1012, &fieldsOf<OdDbArcAlignedText, arcAlignedTextFields>, false, true},
 };

@@ -56,6 +56,8 @@ class OdDbExtrudedSurface;
 class OdDbRevolvedSurface;
 class OdDbSweptSurface;
 class OdDbLoftedSurface;
+class OdDbLeader;
+class OdDbFcf;
 
 namespace OdDxf::mapping {
 
@@ -434,6 +436,9 @@ void radialDimensionFields(Fields<OdDbDimension>& f);
 void ordinateDimensionFields(Fields<OdDbDimension>& f);
 void arcDimensionFields(Fields<OdDbDimension>& f);
 void largeRadialDimensionFields(Fields<OdDbDimension>& f);
+// Leaders and tolerance frames (DxfLeaders.cpp).
+void leaderFields(Fields<OdDbLeader>& f);
+void fcfFields(Fields<OdDbFcf>& f);
 // DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
 void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 
