@@ -16,6 +16,7 @@
 #include "Leader.h"
 #include "Line.h"
 #include "MText.h"
+#include "MLeader.h"
 #include "Point.h"
 #include "Polyline.h"
 #include "Polyline2d.h"

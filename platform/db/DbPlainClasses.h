@@ -22,6 +22,7 @@
 #include "DbDimension.h"
 #include "DbLeader.h"
 #include "DbFcf.h"
+#include "DbMLeader.h"
 #include "DbModelerGeometry.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \

@@ -385,6 +385,8 @@ constexpr ClassMapping kEntities[] = {
     // Leaders: the colour of 77 and the block offset of 212 are kept as they are.
     {"LEADER",     &OdDbLeader::desc,      0,    &fieldsOf<OdDbLeader, leaderFields>,               false, true},
     {"TOLERANCE",  &OdDbFcf::desc,         0,    &fieldsOf<OdDbFcf, fcfFields>,                     false},
+    // Multileaders: the context data is kept; only the values modelled are patched.
+    {"MULTILEADER", &OdDbMLeader::desc,    0,    &fieldsOf<OdDbMLeader, mleaderFields>,             false, true},
     // Arc-aligned text: its font names and the arc it follows are not mapped.
     {"ARCALIGNEDTEXT", &OdDbArcAlignedText::desc, 1012, &fieldsOf<OdDbArcAlignedText, arcAlignedTextFields>, false, true},
 };

@@ -1,8 +1,13 @@
 // LEADER: its flags and sizes as a table, the vertices (76 and the repeated
 // 10/20/30) as code, then the annotation, the normal and the directions.
 // TOLERANCE: the style, position, frame text, normal and direction.
+// MULTILEADER: values in its context data block (300 "CONTEXT_DATA{" to
+// 301 "}") and after it, each found by its group code in its region and
+// patched in place, so that every group the platform does not model stays
+// as it is; the leader lines are read from the block's LEADER_LINE groups.
 #include "DbPlainClasses.h"
 #include "DxfFields.h"
+#include "DbMLeader.h"
 
 namespace OdDxf::mapping {
 namespace {
@@ -174,6 +179,247 @@ void fcfFields(Fields<F>& f) {
   f.subclass("AcDbFcf");
   mapFields(f, kFcfRows);
   directionField<F, &F::direction, &F::setDirection>(f, 11);
+}
+
+
+namespace {
+
+using M = OdDbMLeader;
+
+// Where a multileader value lives: the head of the context data (before
+// its first LEADER{ group) or the entity's groups after the context data.
+enum class Where { Context, Entity };
+enum class MKind { Real, Int, Color, Handle, Text };
+struct MField {
+  Where where;
+  int code;
+  MKind kind;
+  Access<M> access;
+};
+
+// Colours as the record keeps them: the method in the high byte (0xC0 by
+// layer, 0xC1 by block, 0xC2 true colour, 0xC3 an index), the value below.
+qint64 rawColor(const OdCmColor& c) {
+  if (c.isByLayer()) return qint32(0xC0000000u);
+  if (c.isByBlock()) return qint32(0xC1000000u);
+  if (c.isByColor()) return qint32(0xC2000000u | (quint32(c.red()) << 16) | (quint32(c.green()) << 8) | c.blue());
+  return qint32(0xC3000000u | quint32(c.colorIndex() & 0xFF));
+}
+OdCmColor colorOfRaw(qint64 raw) {
+  const quint32 v = quint32(raw);
+  switch (v >> 24) {
+    case 0xC0: return OdCmColor::byLayer();
+    case 0xC2: return OdCmColor::fromRGB(uint8_t(v >> 16), uint8_t(v >> 8), uint8_t(v));
+    case 0xC3: return OdCmColor::fromIndex(int(v & 0xFF));
+    default: return OdCmColor::byBlock();
+  }
+}
+
+template <OdCmColor (M::*Get)() const, void (M::*Set)(const OdCmColor&)>
+constexpr Access<M> color() {
+  return {[](const M* o) { return FieldValue(double(rawColor((o->*Get)()))); },
+          [](M* o, const FieldValue& v) { (o->*Set)(colorOfRaw(qint64(std::get<double>(v)))); }};
+}
+
+// clang-format off
+//                                  where           code kind          member
+const MField kMLeaderFields[] = {
+    {Where::Context, 40,  MKind::Real,   member<M, &M::scale, &M::setScale>()},
+    {Where::Context, 41,  MKind::Real,   member<M, &M::textHeight, &M::setTextHeight>()},
+    {Where::Context, 145, MKind::Real,   member<M, &M::landingGap, &M::setLandingGap>()},
+    {Where::Context, 174, MKind::Int,    member<M, &M::leftAttachment, &M::setLeftAttachment>()},
+    {Where::Context, 175, MKind::Int,    member<M, &M::rightAttachment, &M::setRightAttachment>()},
+    {Where::Context, 304, MKind::Text,   member<M, &M::contents, &M::setContents>()},
+    {Where::Context, 340, MKind::Handle, member<M, &M::textStyleId, &M::setTextStyleId>()},
+    {Where::Context, 42,  MKind::Real,   member<M, &M::textRotation, &M::setTextRotation>()},
+    {Where::Context, 43,  MKind::Real,   member<M, &M::textWidth, &M::setTextWidth>()},
+    {Where::Context, 45,  MKind::Real,   member<M, &M::lineSpacingFactor, &M::setLineSpacingFactor>()},
+    {Where::Context, 170, MKind::Int,    member<M, &M::lineSpacingStyle, &M::setLineSpacingStyle>()},
+    {Where::Context, 171, MKind::Int,    member<M, &M::textJustify, &M::setTextJustify>()},
+    {Where::Context, 172, MKind::Int,    member<M, &M::textFlowDirection, &M::setTextFlowDirection>()},
+    {Where::Context, 292, MKind::Int,    member<M, &M::backgroundMask, &M::setBackgroundMask>()},
+    {Where::Context, 273, MKind::Int,    member<M, &M::topAttachment, &M::setTopAttachment>()},
+    {Where::Context, 272, MKind::Int,    member<M, &M::bottomAttachment, &M::setBottomAttachment>()},
+    {Where::Entity,  170, MKind::Int,    member<M, &M::leaderLineType, &M::setLeaderLineType>()},
+    {Where::Entity,  91,  MKind::Color,  color<&M::leaderLineColor, &M::setLeaderLineColor>()},
+    {Where::Entity,  341, MKind::Handle, member<M, &M::leaderLineTypeId, &M::setLeaderLineTypeId>()},
+    {Where::Entity,  171, MKind::Int,    member<M, &M::lineWeight, &M::setLineWeight>()},
+    {Where::Entity,  290, MKind::Int,    member<M, &M::landingEnabled, &M::setLandingEnabled>()},
+    {Where::Entity,  291, MKind::Int,    member<M, &M::doglegEnabled, &M::setDoglegEnabled>()},
+    {Where::Entity,  41,  MKind::Real,   member<M, &M::doglegLength, &M::setDoglegLength>()},
+    {Where::Entity,  342, MKind::Handle, member<M, &M::arrowSymbolId, &M::setArrowSymbolId>()},
+    {Where::Entity,  42,  MKind::Real,   member<M, &M::arrowSize, &M::setArrowSize>()},
+    {Where::Entity,  172, MKind::Int,    member<M, &M::contentType, &M::setContentType>()},
+    {Where::Entity,  292, MKind::Int,    member<M, &M::textFrame, &M::setTextFrame>()},
+    {Where::Entity,  93,  MKind::Color,  color<&M::blockColor, &M::setBlockColor>()},
+    {Where::Entity,  10,  MKind::Real,   member<M, &M::blockScale, &M::setBlockScale>()},
+    {Where::Entity,  271, MKind::Int,    member<M, &M::textAttachmentType, &M::setTextAttachmentType>()},
+    {Where::Entity,  295, MKind::Int,    member<M, &M::leaderExtension, &M::setLeaderExtension>()},
+};
+// clang-format on
+
+struct Regions {
+  int contextBegin = -1, contextHeadEnd = -1, contextEnd = -1, entityEnd = -1;
+  bool valid() const { return contextBegin >= 0 && contextEnd > contextBegin; }
+};
+
+Regions regionsOf(const Record& r) {
+  Regions g;
+  for (int i = 0; i < r.size(); ++i) {
+    const int c = r.at(i).code();
+    if (c == 300 && g.contextBegin < 0 && r.at(i).trimmed() == "CONTEXT_DATA{") g.contextBegin = i;
+    else if (c == 302 && g.contextBegin >= 0 && g.contextHeadEnd < 0) g.contextHeadEnd = i;
+    else if (c == 301 && g.contextBegin >= 0 && g.contextEnd < 0) g.contextEnd = i;
+    else if (c == 1001 && g.entityEnd < 0) g.entityEnd = i;
+  }
+  if (g.contextHeadEnd < 0 || g.contextHeadEnd > g.contextEnd) g.contextHeadEnd = g.contextEnd;
+  if (g.entityEnd < 0) g.entityEnd = r.size();
+  return g;
+}
+
+int findIn(const Record& r, const Regions& g, Where w, int code) {
+  const int from = w == Where::Context ? g.contextBegin + 1 : g.contextEnd + 1;
+  const int to = w == Where::Context ? g.contextHeadEnd : g.entityEnd;
+  for (int i = from; i < to; ++i)
+    if (r.at(i).code() == code) return i;
+  return -1;
+}
+
+// The multileader styles the drawing's objects dictionary lists
+// (ACAD_MLEADERSTYLE), by name and handle.
+std::vector<M::Style> stylesOf(const Context& ctx) {
+  std::vector<M::Style> out;
+  const Section* objects = ctx.file ? ctx.file->section("OBJECTS") : nullptr;
+  if (!objects || objects->records.isEmpty()) return out;
+  auto entryOf = [](const Record& dict, const char* name) -> quint64 {
+    for (int i = 1; i + 1 < dict.size(); ++i)
+      if (dict.at(i).code() == 3 && dict.str(i) == QLatin1String(name)) return dict.at(i + 1).handle();
+    return 0;
+  };
+  const quint64 h = entryOf(objects->records.first(), "ACAD_MLEADERSTYLE");
+  for (const Record& r : objects->records)
+    if (h && r.handle() == h) {
+      for (int i = 1; i + 1 < r.size(); ++i)
+        if (r.at(i).code() == 3 && (r.at(i + 1).code() == 350 || r.at(i + 1).code() == 360))
+          out.push_back({OdString(r.str(i)), OdDbHandle(r.at(i + 1).handle())});
+      break;
+    }
+  return out;
+}
+
+void readLines(RecordIO& io, const Regions& g, M* m) {
+  const Record& r = io.record();
+  std::vector<std::vector<OdGePoint3d>> lines;
+  bool inLine = false;
+  OdGeVector3d xAxis, yAxis;
+  for (int i = g.contextBegin + 1; i < g.contextEnd; ++i) {
+    const int c = r.at(i).code();
+    if (c == 304 && r.at(i).trimmed() == "LEADER_LINE{") {
+      inLine = true;
+      lines.emplace_back();
+    } else if (c == 305) {
+      inLine = false;
+    } else if (inLine && c == 10) {
+      OdGePoint3d p(io.realAt(i), 0, 0);
+      if (i + 1 < g.contextEnd && r.at(i + 1).code() == 20) p.y = io.realAt(i + 1);
+      if (i + 2 < g.contextEnd && r.at(i + 2).code() == 30) p.z = io.realAt(i + 2);
+      lines.back().push_back(p);
+    } else if (!inLine && (c == 111 || c == 112) && i + 2 < g.contextEnd) {
+      (c == 111 ? xAxis : yAxis) = OdGeVector3d(io.realAt(i), io.realAt(i + 1), io.realAt(i + 2));
+    }
+  }
+  m->setLeaderLines(lines);
+  const OdGeVector3d n = xAxis.crossProduct(yAxis);
+  if (!n.isZeroLength()) m->setNormal(n);
+}
+
+}  // namespace
+
+void mleaderFields(Fields<M>& f) {
+  RecordIO& io = f.io();
+  Context& ctx = io.ctx();
+  M* m = f.object();
+  f.subclass("AcDbMLeader");
+  Record& r = io.record();
+  Regions g = regionsOf(r);
+  if (!g.valid()) {
+    if (io.reading()) io.warn(0, QStringLiteral("the multileader has no context data; its values are not read"));
+    return;
+  }
+  const bool hasText = [&] {
+    const int at = findIn(r, g, Where::Context, 290);
+    return at >= 0 && io.integerAt(at) != 0;
+  }();
+  if (io.reading()) {
+    for (const MField& row : kMLeaderFields) {
+      const int at = findIn(r, g, row.where, row.code);
+      if (at < 0 || (row.kind == MKind::Text && !hasText)) continue;
+      FieldValue v;
+      switch (row.kind) {
+        case MKind::Real: v = io.realAt(at); break;
+        case MKind::Int:
+        case MKind::Color: v = double(io.integerAt(at)); break;
+        case MKind::Text: v = OdString(r.str(at)); break;
+        case MKind::Handle: {
+          const quint64 h = r.at(at).handle();
+          v = h ? ctx.db->getOdDbObjectId(OdDbHandle(h)) : OdDbObjectId();
+          break;
+        }
+      }
+      f.apply(row.code, [&] { row.access.set(m, v); });
+    }
+    readLines(io, g, m);
+    m->setAvailableStyles(stylesOf(ctx));
+    const int styleAt = findIn(r, g, Where::Entity, 340);
+    const OdDbHandle style = styleAt >= 0 ? OdDbHandle(r.at(styleAt).handle()) : OdDbHandle();
+    M::Style found{OdString(), style};
+    for (const M::Style& s : m->availableStyles())
+      if (s.handle == style) found = s;
+    m->setStyle(found);
+    if (!style.isNull() && found.name.isEmpty())
+      io.warn(styleAt, QStringLiteral("the multileader style %1 is missing from the drawing").arg(style.ascii().qstring()));
+    const int blockAt = findIn(r, g, Where::Entity, 344);
+    if (blockAt >= 0) {
+      const OdDbHandle h(r.at(blockAt).handle());
+      const OdDbObjectId id = ctx.db->getOdDbObjectId(h);
+      m->setBlockContentHandle(h, id);
+      if (id.isNull() && !h.isNull())
+        io.warn(blockAt, QStringLiteral("the multileader's block %1 is missing from the drawing").arg(h.ascii().qstring()));
+    }
+    return;
+  }
+  const M* before = f.before();
+  auto put = [&](Where w, int code, auto write) {
+    int at = findIn(r, g, w, code);
+    if (at < 0) {
+      // A value the record left out goes last in its region.
+      at = w == Where::Context ? g.contextHeadEnd : g.entityEnd;
+      r.insert(at, code);
+      g = regionsOf(r);
+    }
+    write(at);
+  };
+  for (const MField& row : kMLeaderFields) {
+    const FieldValue now = row.access.get(m);
+    if (io.mode() != RecordIO::Create && now == row.access.get(before)) continue;
+    if (row.kind == MKind::Text && !hasText) continue;
+    put(row.where, row.code, [&](int at) {
+      switch (row.kind) {
+        case MKind::Real: r.setReal(at, std::get<double>(now)); break;
+        case MKind::Int:
+        case MKind::Color: r.setInteger(at, qint64(std::get<double>(now))); break;
+        case MKind::Text: writeString(ctx, r, at, std::get<OdString>(now).qstring()); break;
+        case MKind::Handle: r.setHandle(at, std::get<OdDbObjectId>(now).getHandle().value()); break;
+      }
+    });
+  }
+  if (!(m->styleHandle() == before->styleHandle()))
+    put(Where::Entity, 340, [&](int at) { r.setHandle(at, m->styleHandle().value()); });
+  if (!(m->blockContentHandle() == before->blockContentHandle())) {
+    put(Where::Entity, 344, [&](int at) { r.setHandle(at, m->blockContentHandle().value()); });
+    const int inContext = findIn(r, g, Where::Context, 341);
+    if (inContext >= 0) r.setHandle(inContext, m->blockContentHandle().value());
+  }
 }
 
 }  // namespace OdDxf::mapping

@@ -58,6 +58,7 @@ class OdDbSweptSurface;
 class OdDbLoftedSurface;
 class OdDbLeader;
 class OdDbFcf;
+class OdDbMLeader;
 
 namespace OdDxf::mapping {
 
@@ -439,6 +440,7 @@ void largeRadialDimensionFields(Fields<OdDbDimension>& f);
 // Leaders and tolerance frames (DxfLeaders.cpp).
 void leaderFields(Fields<OdDbLeader>& f);
 void fcfFields(Fields<OdDbFcf>& f);
+void mleaderFields(Fields<OdDbMLeader>& f);
 // DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
 void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 
