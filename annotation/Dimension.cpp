@@ -548,6 +548,12 @@ bool isTolerancePrecisionReadOnly(const OdDbObject* object, const CZqPropertyDes
   return dim && toleranceDisplayOf(dim) == 0;
 }
 
+}  // namespace
+
+bool ZqDim::isAnnotative(const OdDbObject* object) { return ZqIsAnnotative(object); }
+
+namespace {
+
 bool isScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription&) { return ZqIsAnnotative(object); }
 
 // Inspection: kept as the dimension's "ACAD_DSTYLE_DIMINSPECT" extended
@@ -933,19 +939,21 @@ ZQ_DEFINE_PROVIDER(CZqDimension2ArrowPE, nullptr, kTwoArrowRows)
 void CZqDimensionInfo::PrintDimStyleOverrides(const OdDbObject* object, CZqPrintInfoContext* context) {
   const D* dim = ZqReadable<D>(object);
   if (!dim || !context) return;
+  ZqPrintDimStyleOverrides(object, dim->dimensionStyle(), context);
+}
+
+void ZqPrintDimStyleOverrides(const OdDbObject* object, const OdDbObjectId& styleId, CZqPrintInfoContext* context) {
   OdRxClass* recordClass = OdDbDimStyleTableRecord::desc();
   if (!recordClass) {
     context->PrintString(CZqString("OdDbOdDbDimStyleTableRecordis not loaded"));
     return;
   }
-  OdDbDimStyleTableRecordPtr effective = OdDbDimStyleTableRecord::createObject();
-  dim->getDimstyleData(effective.get());
-  OdDbObjectPtr styleObject = dim->dimensionStyle().isNull() ? OdDbObjectPtr() : dim->dimensionStyle().openObject();
+  OdDbObjectPtr styleObject = styleId.isNull() ? OdDbObjectPtr() : styleId.openObject();
   const auto* style = odrxCast<OdDbDimStyleTableRecord>(styleObject.get());
   bool header = false;
-  for (int k = 0; k < dv::kCount; ++k) {
-    const dv::Id id = dv::Id(k);
-    const dv::Value& v = effective->dimVar(id);
+  for (const OdDbDimStyleOverrides::Line& line : OdDbDimStyleOverrides::effective(object, style)) {
+    const dv::Id id = line.id;
+    const dv::Value& v = line.value;
     const dv::Value base = style ? style->dimVar(id) : dv::info(id).defaultValue();
     if (v == base) continue;
     if (!header) {

@@ -62,6 +62,12 @@ ZQ_DIMENSION_INFO(DiametricDimension)
 ZQ_DIMENSION_INFO(OrdinateDimension)
 #undef ZQ_DIMENSION_INFO
 
+// The overrides of a style that an object drawn with it carries (a
+// dimension, a leader, a tolerance frame): every variable whose effective
+// value differs from the style's, in the listing order of the variables,
+// under one header line.
+void ZqPrintDimStyleOverrides(const OdDbObject* object, const OdDbObjectId& style, CZqPrintInfoContext* context);
+
 // Shared by the common block and the kinds' units rows (Dimension.cpp).
 namespace ZqDim {
 // Getter and setter of a row that shows a dimension variable: the variable
@@ -86,4 +92,6 @@ CZqVariant getAltFormat(const OdDbObject* object, const CZqPropertyDescription&,
 CZqVariant getFraction(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&);
 CZqVariant getTolerancePrecision(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&);
 int setChoice(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&);
+// Whether the object (of any class) carries the annotative flag.
+bool isAnnotative(const OdDbObject* object);
 }  // namespace ZqDim

@@ -609,6 +609,58 @@ DE.setdefault("zqpalette", {}).update({
         "zqpalette: für die Sprache \"%1\" gibt es keinen Übersetzungskatalog; das Fenster bleibt englisch.",
 })
 
+# Leaders, multileaders and tolerance frames
+DE.setdefault("entity_types", {}).update({"Leader": "Führung", "Tolerance": "Toleranz"})
+DE.setdefault("CZqLeaderPE", {}).update({"Edit annotation scales": "Beschriftungsmaßstäbe bearbeiten"})
+DE.setdefault("CZqFcfPE", {}).update({"Edit annotation scales": "Beschriftungsmaßstäbe bearbeiten"})
+DE.setdefault("property_types", {}).update({
+    "DimStyle": "Bemaßungsstil", "DimScale overall": "Bemaßungsgesamtmaßstab", "Type": "Typ",
+    "Vertex x": "Scheitelpunkt X", "Vertex y": "Scheitelpunkt Y", "Vertex z": "Scheitelpunkt Z",
+})
+DE.setdefault("property_values", {}).update({
+    "Line with no arrow": "Linie ohne Pfeil", "Spline with no arrow": "Spline ohne Pfeil",
+    "Line with arrow": "Linie mit Pfeil", "Spline with arrow": "Spline mit Pfeil",
+})
+DE.setdefault("info_items", {}).update({
+    "Normal": "Normale", "Horizontal direction": "Horizontale Richtung", "Hook Line": "Hakenlinie",
+    "Vertex": "Scheitelpunkt", "Arrow": "Pfeil",
+})
+DE.setdefault("info_values", {}).update({"leader": "Führung"})
+
+DE.setdefault("entity_types", {}).update({"MultiLeader": "Multi-Führungslinie"})
+DE.setdefault("CZqMLeaderPE", {}).update({"Edit annotation scales": "Beschriftungsmaßstäbe bearbeiten"})
+DE.setdefault("property_groups", {}).update({"Leaders": "Führungslinien", "Block": "Block"})
+DE.setdefault("property_types", {}).update({
+    "Multi leader Style": "Multi-Führungslinienstil", "Leader line color": "Führungslinienfarbe",
+    "Leader line style": "Führungslinientyp", "Leader line weight": "Führungslinienstärke",
+    "Leader Extension": "Führungslinienverlängerung", "Overall scale": "Gesamtmaßstab",
+    "Horizontal landing": "Horizontale Verbindung", "Landing distance": "Verbindungsabstand",
+    "Block name": "Blockname", "Attachment type": "Anhangstyp", "Content": "Inhalt",
+    "Landing gap": "Verbindungsabstand zum Text", "Left attachment": "Anhang links",
+    "Right attachment": "Anhang rechts", "Top attachment": "Anhang oben", "Bottom attachment": "Anhang unten",
+    "Line space distance": "Zeilenabstand", "Text frame": "Textrahmen", "Attachment": "Anhang",
+})
+DE.setdefault("property_values", {}).update({
+    "Straight": "Gerade", "Spline": "Spline", "Left to right": "Links nach rechts", "Top to bottom": "Oben nach unten",
+    "By style": "Nach Stil", "Top of top line": "Oberkante der obersten Zeile", "Middle of top line": "Mitte der obersten Zeile",
+    "Middle of text": "Textmitte", "Middle of bottom line": "Mitte der untersten Zeile",
+    "Bottom of bottom line": "Unterkante der untersten Zeile", "Bottom line": "Unterste Zeile",
+    "Bottom of top line underlined": "Unterkante der obersten Zeile, unterstrichen",
+    "Bottom of top line": "Unterkante der obersten Zeile", "Bottom of all text": "Unterkante des gesamten Texts",
+    "Underline and center": "Unterstrichen und zentriert", "At least": "Mindestens", "Exactly": "Genau",
+    "Insertion point": "Einfügepunkt", "Middle": "Mitte",
+})
+DE.setdefault("info_items", {}).update({
+    "Leader Type": "Führungstyp", "Content Type": "Inhaltstyp", "Landing Line": "Verbindungslinie",
+    "MultiLeader style": "Multi-Führungslinienstil", "Leader number": "Anzahl Führungslinien",
+})
+DE.setdefault("info_values", {}).update({"Invisible": "Unsichtbar", "Straight": "Gerade", "Spline": "Spline", "Note": "Notiz"})
+DE.setdefault("errors", {}).update({
+    "The drawing has no multileader style \"%1\".": "Die Zeichnung hat keinen Multi-Führungslinienstil \"%1\".",
+    "The multileader's block is missing from the drawing.": "Der Block der Multi-Führungslinie fehlt in der Zeichnung.",
+    "A multileader text cannot hold control characters; use \\P for a new line.": "Ein Multi-Führungslinientext kann keine Steuerzeichen enthalten; für eine neue Zeile \\P verwenden.",
+})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

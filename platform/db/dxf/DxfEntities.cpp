@@ -384,6 +384,11 @@ constexpr ClassMapping kEntities[] = {
     {"LARGE_RADIAL_DIMENSION", &OdDbRadialDimensionLarge::desc, 1015, &fieldsOf<OdDbDimension, largeRadialDimensionFields>, false},
     // Hatches: new ones cannot be written (their loops are only read).
     {"HATCH",      &OdDbHatch::desc,       1012, &fieldsOf<OdDbHatch, hatchFields>,                 false, true},
+    // Leaders: the colour of 77 and the block offset of 212 are kept as they are.
+    {"LEADER",     &OdDbLeader::desc,      0,    &fieldsOf<OdDbLeader, leaderFields>,               false, true},
+    {"TOLERANCE",  &OdDbFcf::desc,         0,    &fieldsOf<OdDbFcf, fcfFields>,                     false},
+    // Multileaders: the context data is kept; only the values modelled are patched.
+    {"MULTILEADER", &OdDbMLeader::desc,    0,    &fieldsOf<OdDbMLeader, mleaderFields>,             false, true},
     // Arc-aligned text: its font names and the arc it follows are not mapped.
     {"ARCALIGNEDTEXT", &OdDbArcAlignedText::desc, 1012, &fieldsOf<OdDbArcAlignedText, arcAlignedTextFields>, false, true},
 };

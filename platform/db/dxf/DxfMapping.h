@@ -57,6 +57,9 @@ class OdDbRevolvedSurface;
 class OdDbSweptSurface;
 class OdDbLoftedSurface;
 class OdDbHatch;
+class OdDbLeader;
+class OdDbFcf;
+class OdDbMLeader;
 
 namespace OdDxf::mapping {
 
@@ -451,6 +454,10 @@ void radialDimensionFields(Fields<OdDbDimension>& f);
 void ordinateDimensionFields(Fields<OdDbDimension>& f);
 void arcDimensionFields(Fields<OdDbDimension>& f);
 void largeRadialDimensionFields(Fields<OdDbDimension>& f);
+// Leaders and tolerance frames (DxfLeaders.cpp).
+void leaderFields(Fields<OdDbLeader>& f);
+void fcfFields(Fields<OdDbFcf>& f);
+void mleaderFields(Fields<OdDbMLeader>& f);
 // DIMSTYLE records, one field per dimension variable (DxfDimStyle.cpp).
 void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 
