@@ -22,3 +22,14 @@ class CZqMInsertBlockPE : public ZqProvider<CZqMInsertBlockPE> {
   ZQ_PROVIDER(CZqMInsertBlockPE);
 };
 
+// Proxy entities: the original class, its DXF name, the application that
+// defines it and the operations it allows. Every row is read-only: the
+// proxy's data belongs to an application that is not loaded.
+class CZqProxyEntityPE : public ZqProvider<CZqProxyEntityPE> {
+  ZQ_PROVIDER(CZqProxyEntityPE);
+};
+
+class CZqProxyEntityInfo : public CZqPrintObjectInfoPE {
+ public:
+  void PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) override;
+};

@@ -660,6 +660,18 @@ DE.setdefault("errors", {}).update({
     "The multileader's block is missing from the drawing.": "Der Block der Multi-Führungslinie fehlt in der Zeichnung.",
     "A multileader text cannot hold control characters; use \\P for a new line.": "Ein Multi-Führungslinientext kann keine Steuerzeichen enthalten; für eine neue Zeile \\P verwenden.",
 })
+# Proxy entities.
+DE.setdefault("entity_types", {}).update({"Proxy Entity": "Proxy-Objekt"})
+DE.setdefault("property_types", {}).update({"Original class name": "Ursprünglicher Klassenname", "DXF name": "DXF-Name",
+                                            "Application": "Anwendung", "Allowed operations": "Erlaubte Operationen"})
+DE.setdefault("info_items", {}).update({"Original class name": "Ursprünglicher Klassenname", "DXF name": "DXF-Name",
+                                        "Application": "Anwendung", "Allowed operations": "Erlaubte Operationen"})
+DE.setdefault("property_values", {}).update({
+    "Erase": "Löschen", "Transform": "Transformieren", "Color change": "Farbänderung", "Layer change": "Layeränderung",
+    "Linetype change": "Linientypänderung", "Linetype scale change": "Linientypfaktoränderung",
+    "Visibility change": "Sichtbarkeitsänderung", "Cloning": "Klonen", "Lineweight change": "Linienstärkenänderung",
+    "Plot style change": "Plotstiländerung", "Material change": "Materialänderung", "None": "Keine", "Unknown": "Unbekannt",
+})
 
 for context in tree.getroot().iter("context"):
     name = context.find("name").text

@@ -26,6 +26,7 @@
 #include "DbModelerGeometry.h"
 #include "DbBlockReference.h"
 #include "DbHatch.h"
+#include "DbProxyEntity.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

@@ -5,6 +5,7 @@
 #include "DxfMapping.h"
 
 #include <QtMath>
+#include <utility>
 
 namespace OdDxf::mapping {
 namespace {
@@ -58,12 +59,53 @@ void referenceFields(Fields<R>& f) {
   f.normal(210, &B::normal, &B::setNormal);
 }
 
+// A proxy's record is never written: what describes it is read from the
+// drawing's class list - by the class number of an ACAD_PROXY_ENTITY, by
+// the record type of an entity of an unknown type.
+void proxyFields(Fields<OdDbProxyEntity>& f) {
+  if (!f.reading()) return;
+  RecordIO& io = f.io();
+  const Record& r = io.record();
+  QString dxfName = QString::fromLatin1(r.type().toByteArray());
+  const Section* classes = io.ctx().file ? std::as_const(*io.ctx().file).section("CLASSES") : nullptr;
+  const Record* cls = nullptr;
+  if (r.isType("ACAD_PROXY_ENTITY")) {
+    io.subclass("AcDbProxyEntity");
+    const int at = io.find(91);
+    const qint64 number = at >= 0 ? io.integerAt(at) : 0;
+    if (classes && number >= 500 && number - 500 < classes->records.size()) cls = &classes->records[number - 500];
+  } else if (classes) {
+    for (const Record& c : classes->records) {
+      const int i = c.find(1);
+      if (i >= 0 && c.str(i).trimmed() == dxfName) {
+        cls = &c;
+        break;
+      }
+    }
+  }
+  auto text = [&](int code) {
+    const int i = cls ? cls->find(code) : -1;
+    return i >= 0 ? cls->str(i).trimmed() : QString();
+  };
+  int flags = 0;
+  if (cls) {
+    const int i = cls->find(90);
+    bool ok = false;
+    if (i >= 0) flags = int(cls->at(i).integer(&ok));
+    if (!ok) flags = 0;
+    if (!text(1).isEmpty()) dxfName = text(1);
+  }
+  f.object()->setDescriptionInternal(OdString(dxfName), OdString(text(2)), OdString(text(3)), flags, cls != nullptr);
+}
+
 // clang-format off
 //                                 record   class                       since fields                                                       sequence partial
 constexpr ClassMapping kBlockEntities[] = {
     // New references cannot be written: their attributes and SEQEND are not made.
     {"INSERT",     &OdDbBlockReference::desc, 0, &fieldsOf<OdDbBlockReference, referenceFields<OdDbBlockReference>>, false, true},
     {"INSERT",     &OdDbMInsertBlock::desc,   0, &fieldsOf<OdDbMInsertBlock, referenceFields<OdDbMInsertBlock>>,     false, true},
+    // Proxies keep their data as it is: new ones cannot be written.
+    {"ACAD_PROXY_ENTITY", &OdDbProxyEntity::desc, 0, &fieldsOf<OdDbProxyEntity, proxyFields>,                 false, true},
 };
 // clang-format on
 
