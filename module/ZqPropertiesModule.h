@@ -25,6 +25,8 @@
 #include "Vertex.h"
 #include "Xline.h"
 #include "Solids.h"
+#include "Records.h"
+#include "Viewport.h"
 
 #include <vector>
 

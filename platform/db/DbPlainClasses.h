@@ -21,6 +21,7 @@
 #include "DbDimStyle.h"
 #include "DbDimension.h"
 #include "DbModelerGeometry.h"
+#include "DbViewport.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

@@ -382,6 +382,8 @@ constexpr ClassMapping kEntities[] = {
     {"DIMENSION",  &OdDbOrdinateDimension::desc,      0, &fieldsOf<OdDbDimension, ordinateDimensionFields>,          false},
     {"ARC_DIMENSION", &OdDbArcDimension::desc,        1015, &fieldsOf<OdDbDimension, arcDimensionFields>,            false},
     {"LARGE_RADIAL_DIMENSION", &OdDbRadialDimensionLarge::desc, 1015, &fieldsOf<OdDbDimension, largeRadialDimensionFields>, false},
+    // Viewports: clipping, UCS, grid and lighting are not mapped.
+    {"VIEWPORT",   &OdDbViewport::desc,    0,    &fieldsOf<OdDbViewport, viewportFields>,           false, true},
     // Arc-aligned text: its font names and the arc it follows are not mapped.
     {"ARCALIGNEDTEXT", &OdDbArcAlignedText::desc, 1012, &fieldsOf<OdDbArcAlignedText, arcAlignedTextFields>, false, true},
 };

@@ -57,6 +57,8 @@ class OdDbRevolvedSurface;
 class OdDbSweptSurface;
 class OdDbLoftedSurface;
 
+class OdDbViewport;
+
 namespace OdDxf::mapping {
 
 // Thrown by reading code for a malformed value; readDrawing turns it into
@@ -439,6 +441,7 @@ void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 
 // Entities whose data the platform models; the rest keep their common
 // properties only.
+void viewportFields(Fields<OdDbViewport>& f);
 const ClassMapping* entityMapping(const OdRxClass* cls);
 // Symbol table records, by class or by record type.
 const ClassMapping* recordMapping(const OdRxClass* cls);
