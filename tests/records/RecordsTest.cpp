@@ -246,9 +246,11 @@ INSTANTIATE_TEST_SUITE_P(Samples, RenameTest, ::testing::ValuesIn(kRenames));
 // --- Every record of every sample -----------------------------------------------
 
 TEST(RecordSamples, EveryRecordListsWithItsOwnProviderAndRoundTrips) {
-  // The display name of each record type; style providers have no class of their own.
-  const QMap<QString, QString> shown = {
-      {"LAYER", "Layer"}, {"LTYPE", "Linetype"}, {"STYLE", "Text Style"}, {"DIMSTYLE", "Dimension Style"}};
+  // The display name and provider of each record type.
+  const QMap<QString, QStringList> shown = {{"LAYER", {"Layer", "CZqLayerPE"}},
+                                            {"LTYPE", {"Linetype", "CZqLineStylePE"}},
+                                            {"STYLE", {"Text Style", "CZqTextStylePE"}},
+                                            {"DIMSTYLE", {"Dimension Style", "CZqDimensionStylePE"}}};
   const QStringList samples = QDir(ZQ_SAMPLES_DIR).entryList({"*.dxf"}, QDir::Files);
   ASSERT_FALSE(samples.isEmpty());
   for (const QString& name : samples) {
@@ -266,10 +268,8 @@ TEST(RecordSamples, EveryRecordListsWithItsOwnProviderAndRoundTrips) {
       const QJsonObject o = v.toObject();
       const QString type = o["type"].toString();
       ASSERT_TRUE(shown.contains(type)) << type.toStdString();
-      EXPECT_EQ(o["name"].toString(), shown[type]);
-      if (type == "LAYER") {
-        EXPECT_EQ(o["provider"].toString(), "CZqLayerPE");
-      }
+      EXPECT_EQ(o["name"].toString(), shown[type][0]);
+      EXPECT_EQ(o["provider"].toString(), shown[type][1]);
       EXPECT_TRUE(o["rows"].toObject().contains("General/Name")) << type.toStdString();
     }
     QFile f(path);
