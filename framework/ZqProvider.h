@@ -15,9 +15,12 @@
 // the hook for rows built per object.
 #include "ZqRows.h"
 #include "DbPlainClasses.h"
+#include <type_traits>
 
-// The parent and drawing class of each provider, read from the table.
-template <class Provider> struct ZqParentOf;
+// The parent and drawing class of each provider, read from the table. A
+// provider the module registers no class for (the style records) derives
+// from the property protocol itself.
+template <class Provider> struct ZqParentOf { using type = CZqPropertyBase; };
 // A shared base's drawing class; a provider attached to a class of its own
 // (a row of the table) takes that class instead.
 template <class Provider> struct ZqBaseDrawingClassOf;
@@ -71,6 +74,13 @@ class ZqProvider : public ZqParent<Self> {
                         const OdRxClass* providerClass, bool excludeOwn) override {
     container = nullptr;
     Parent::GetPropertyNames(object, container, objectClass, providerClass, excludeOwn);
+    if constexpr (std::is_same_v<Parent, CZqPropertyBase>) {
+      // Directly under the protocol (records, styles, lights): no parent
+      // makes the container, so the provider does; an entity among them
+      // still shows the general rows every entity has.
+      container = new CZqCustomPropertyContainer();
+      if (ZqDrawingClass<Self>::desc()->isDerivedFrom(OdDbEntity::desc())) container->Add(CZqEntityPE::GeneralRows());
+    }
     const ZqProviderRows& rows = Self::rows();
     if (!ZqAddStaticRows(container, objectClass, providerClass, excludeOwn, ZqDrawingClass<Self>::desc(), Self::desc(),
                          Self::staticList(), rows.fixed))

@@ -138,7 +138,7 @@ CZqCustomPropertyDescription* ZqBuildDynamicDescription(const ZqRow& row) {
 bool ZqAddStaticRows(CZqPropertiesContainer* container, const OdRxClass* objectClass, const OdRxClass* providerClass,
                      bool excludeOwn, const OdRxClass* drawingClass, const OdRxClass* ownClass,
                      OdArray<CZqPropertyDescription*>& staticList, std::span<const ZqRow> rows) {
-  if (providerClass && !providerClass->isDerivedFrom(ownClass)) return false;
+  if (providerClass && (!ownClass || !providerClass->isDerivedFrom(ownClass))) return false;
   if (!container) return false;
   const bool wanted = !objectClass || objectClass->isDerivedFrom(drawingClass);
   if (!staticList.isEmpty() || rows.empty()) {

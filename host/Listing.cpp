@@ -7,6 +7,10 @@
 #include <cmath>
 #include <string>
 #include <unordered_map>
+#include <cstdlib>
+#include <cxxabi.h>
+#include <memory>
+#include <typeinfo>
 
 QString zqDisplayName(const OdDbObject* object) {
   CZqPropertyBase* pe = CZqPropertyPEClassFactory::providerFor(object);
@@ -15,7 +19,16 @@ QString zqDisplayName(const OdDbObject* object) {
 
 QString zqProviderName(const OdDbObject* object) {
   CZqPropertyBase* pe = CZqPropertyPEClassFactory::providerFor(object);
-  return pe && pe->isA() ? pe->isA()->name().qstring() : QString();
+  if (!pe) return QString();
+  if (pe->isA()) return pe->isA()->name().qstring();
+  // A provider without a class descriptor of its own (the style records):
+  // its C++ class names it, inside the static-object wrapper.
+  int status = 0;
+  std::unique_ptr<char, void (*)(void*)> name(abi::__cxa_demangle(typeid(*pe).name(), nullptr, nullptr, &status), std::free);
+  QString s = status == 0 && name ? QString::fromLatin1(name.get()) : QString();
+  const qsizetype open = s.indexOf('<');
+  if (open >= 0 && s.endsWith('>')) s = s.mid(open + 1, s.size() - open - 2);
+  return s;
 }
 
 QString zqRowKey(const CZqPaletteRow& row) { return row.categoryKey.qstring() + '/' + row.nameKey.qstring(); }

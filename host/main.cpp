@@ -187,9 +187,12 @@ int main(int argc, char** argv) {
   const QCommandLineOption space("space", "Work on objects of model space (default), paper space (every layout) or all.", "model|paper|all");
   const QCommandLineOption blocks("blocks", "Also work on the objects inside block definitions.");
   const QCommandLineOption rows("rows", "List only these rows (Category/Name, comma list).", "ROWS");
+  const QCommandLineOption records(
+      "records", "Work on the drawing's named records instead: layers, linetypes, textstyles, dimstyles (comma list).", "KINDS");
+  const QCommandLineOption names("name", "With --records: only the records with these names (wildcards, comma lists).", "NAMES");
   const QCommandLineOption keepGoing("keep-going", "Go on past errors in a script (the exit status still shows them).");
   parser.addOptions({list, info, handle, json, set, script, output, lang, ucs, inPlace, saveAs, force, vertex, strict,
-                     type, layer, space, blocks, rows, keepGoing});
+                     type, layer, space, blocks, rows, keepGoing, records, names});
   if (!parser.parse(app.arguments())) {
     err << "zqprops: " << parser.errorText() << "\n";
     return kUsage;
@@ -241,6 +244,8 @@ int main(int argc, char** argv) {
   filter.types = parser.value(type);
   filter.layers = parser.value(layer);
   filter.blocks = parser.isSet(blocks);
+  filter.records = parser.value(records);
+  filter.names = parser.value(names);
   if (parser.isSet(space)) {
     CZqSelectionFilter::Space sp;
     if (!CZqSelectionFilter::ParseSpace(parser.value(space), sp)) {

@@ -30,6 +30,8 @@
 #include "Xline.h"
 #include "Solids.h"
 #include "Blocks.h"
+#include "Records.h"
+#include "Viewport.h"
 
 #include <vector>
 

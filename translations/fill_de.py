@@ -673,6 +673,51 @@ DE.setdefault("property_values", {}).update({
     "Plot style change": "Plotstiländerung", "Material change": "Materialänderung", "None": "Keine", "Unknown": "Unbekannt",
 })
 
+# Named records: layers, linetypes, text and dimension styles, and their renames.
+DE.setdefault("entity_types", {}).update({"Layer": "Layer", "Linetype": "Linientyp", "Text Style": "Textstil",
+                                          "Dimension Style": "Bemaßungsstil"})
+DE.setdefault("property_types", {}).update({
+    "Name": "Name", "On": "Ein", "Frozen": "Gefroren", "Locked": "Gesperrt", "Plot": "Plotten",
+    "Description": "Beschreibung", "Font name": "Schriftname", "Big font": "Großschrift", "Width factor": "Breitenfaktor", "Oblique angle": "Neigungswinkel", "Backwards": "Rückwärts",
+    "Upside down": "Auf dem Kopf", "Vertical": "Vertikal", "Pattern length": "Musterlänge", "Dashes": "Striche",
+})
+DE.setdefault("errors", {}).update({
+    "record": "Eintrag",
+    "The %1 \"%2\" is part of every drawing and cannot be renamed.": "%1 \"%2\" gehört zu jeder Zeichnung und kann nicht umbenannt werden.",
+    "A name cannot be empty.": "Ein Name darf nicht leer sein.",
+    "A name cannot contain any of the characters %1; \"%2\" contains %3.": "Ein Name darf keines der Zeichen %1 enthalten; \"%2\" enthält %3.",
+    "A name cannot begin or end with a blank.": "Ein Name darf nicht mit einem Leerzeichen beginnen oder enden.",
+    "A %1 named \"%2\" already exists.": "%1 \"%2\" gibt es bereits.",
+    "The current layer cannot be frozen.": "Der aktuelle Layer kann nicht gefroren werden.",
+    "A layer's color must be a color of its own, not ByLayer or ByBlock.": "Die Farbe eines Layers muss eine eigene Farbe sein, nicht VonLayer oder VonBlock.",
+    "A layer's linetype must be a linetype of its own, not ByLayer or ByBlock.": "Der Linientyp eines Layers muss ein eigener Linientyp sein, nicht VonLayer oder VonBlock.",
+    "A layer's lineweight must be Default or a standard lineweight from 0.00 mm to 2.11 mm.": "Die Linienstärke eines Layers muss Vorgabe oder eine Standardlinienstärke von 0,00 mm bis 2,11 mm sein.",
+    "A layer's transparency must be a whole percentage from 0 to 90.": "Die Transparenz eines Layers muss ein ganzer Prozentwert von 0 bis 90 sein.",
+    "Precision must be a whole number from 0 to 8.": "Die Genauigkeit muss eine ganze Zahl von 0 bis 8 sein.",
+})
+DE.setdefault("CZqSelection", {}).update({
+    "\"%1\" names no kind of record: use layers, linetypes, textstyles or dimstyles.": "\"%1\" ist keine Art von Einträgen: layers, linetypes, textstyles oder dimstyles verwenden.",
+})
+
+# Viewports.
+DE.setdefault("entity_types", {}).update({"Viewport": "Ansichtsfenster"})
+DE.setdefault("property_types", {}).update({
+    "Clipped": "Zugeschnitten", "Display locked": "Anzeige gesperrt", "Standard scale": "Standardmaßstab",
+    "Custom scale": "Benutzerdefinierter Maßstab", "View twist": "Ansichtsdrehung", "Shade plot": "Schattierungsplot",
+    "Frozen layers": "Gefrorene Layer",
+})
+DE.setdefault("property_values", {}).update({"Custom": "Benutzerdefiniert", "As Displayed": "Wie angezeigt",
+                                             "Wireframe": "Drahtmodell", "Hidden": "Verdeckt", "Rendered": "Gerendert"})
+DE.setdefault("errors", {}).update({
+    "A viewport without height has no scale.": "Ein Ansichtsfenster ohne Höhe hat keinen Maßstab.",
+    "The layout's own paper view cannot be changed.": "Die Papieransicht des Layouts selbst kann nicht geändert werden.",
+})
+for k, v in {"Scale relative to paper space": "Maßstab relativ zum Papierbereich", "Center point": "Mittelpunkt",
+             "Width": "Breite", "Height": "Höhe", "Status": "Status"}.items():
+    DE.setdefault("info_items", {}).setdefault(k, v)
+for k, v in {"On": "Ein", "Off": "Aus"}.items():
+    DE.setdefault("info_values", {}).setdefault(k, v)
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

@@ -27,6 +27,7 @@
 #include "DbBlockReference.h"
 #include "DbHatch.h"
 #include "DbProxyEntity.h"
+#include "DbViewport.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

@@ -1,5 +1,6 @@
 #include "DbSymbolTable.h"
 #include "DbDatabase.h"
+#include "OdResBuf.h"
 
 void OdDbSymbolTableRecord::setName(const OdString& name) {
   assertWriteEnabled();
@@ -131,4 +132,31 @@ void OdDbBlockTableRecord::copyFrom(const OdRxObject* source) {
   m_scaling = b->m_scaling;
   m_insertUnits = b->m_insertUnits;
   m_explodable = b->m_explodable;
+}
+
+namespace {
+const OdString kLayerStandardApp("AcAecLayerStandard");
+}
+
+OdString OdDbLayerTableRecord::description() const {
+  OdResBufPtr chain = xData(kLayerStandardApp);
+  int texts = 0;
+  for (const OdResBuf* p = chain.get(); p; p = p->next())
+    if (p->restype() == OdResBuf::kDxfXdAsciiString && ++texts == 2) return p->getString();
+  return OdString();
+}
+
+void OdDbLayerTableRecord::setDescription(const OdString& text) {
+  assertWriteEnabled();
+  OdResBufPtr head = OdResBuf::newRb(OdResBuf::kDxfRegAppName, kLayerStandardApp);
+  if (!text.isEmpty()) {
+    // The first text is the layer standard's name, none here.
+    OdResBufPtr standard = OdResBuf::newRb(OdResBuf::kDxfXdAsciiString, OdString());
+    OdResBufPtr item = OdResBuf::newRb(OdResBuf::kDxfXdAsciiString, text);
+    standard->setNext(item.get());
+    head->setNext(standard.get());
+    setXData(head.get());
+    return;
+  }
+  setXData(head.get());
 }

@@ -80,6 +80,10 @@ class DB_API OdDbLayerTableRecord : public OdDbSymbolTableRecord {
   void setIsLocked(bool v) { assertWriteEnabled(); m_locked = v; }
   bool isPlottable() const { assertReadEnabled(); return m_plottable; }
   void setIsPlottable(bool v) { assertWriteEnabled(); m_plottable = v; }
+  // The description, kept as CAD hosts keep it: the second text of the
+  // layer's "AcAecLayerStandard" extended data. An empty one removes it.
+  OdString description() const;
+  void setDescription(const OdString& text);
   void copyFrom(const OdRxObject* source) override;
 
  private:

@@ -148,9 +148,51 @@ bool CZqSelectionFilter::Matches(const OdDbObject* object) const {
   return true;
 }
 
+bool CZqSelectionFilter::ParseRecordKind(const QString& word, OdDbObjectId (OdDbDatabase::**table)() const) {
+  struct Kind {
+    const char* word;
+    const char* type;
+    OdDbObjectId (OdDbDatabase::*table)() const;
+  };
+  static const Kind kKinds[] = {
+      {"layers", "LAYER", &OdDbDatabase::getLayerTableId},
+      {"linetypes", "LTYPE", &OdDbDatabase::getLinetypeTableId},
+      {"textstyles", "STYLE", &OdDbDatabase::getTextStyleTableId},
+      {"dimstyles", "DIMSTYLE", &OdDbDatabase::getDimStyleTableId},
+  };
+  const QString w = word.trimmed();
+  for (const Kind& k : kKinds)
+    if (w.compare(QLatin1String(k.word), Qt::CaseInsensitive) == 0 || w.compare(QLatin1String(k.type), Qt::CaseInsensitive) == 0) {
+      *table = k.table;
+      return true;
+    }
+  return false;
+}
+
 bool CZqSelectionFilter::Select(OdDbDatabase* db, OdDbObjectIdArray& out, QString* why) const {
   out.clear();
   if (!db) return false;
+  if (!records.isEmpty()) {
+    for (const QString& word : records.split(',', Qt::SkipEmptyParts)) {
+      OdDbObjectId (OdDbDatabase::*table)() const = nullptr;
+      if (!ParseRecordKind(word, &table)) {
+        if (why)
+          *why = QCoreApplication::translate("CZqSelection", "\"%1\" names no kind of record: use layers, linetypes, textstyles or dimstyles.")
+                     .arg(word.trimmed());
+        return false;
+      }
+      OdDbObjectPtr t = (db->*table)().openObject();
+      auto* symbols = odrxCast<OdDbSymbolTable>(t.get());
+      if (!symbols) continue;
+      for (const OdDbObjectId& id : symbols->recordIds()) {
+        if (id.isErased()) continue;
+        OdDbObjectPtr rec = id.openObject();
+        const QString name = static_cast<OdDbSymbolTableRecord*>(rec.get())->getName().qstring();
+        if ((names.isEmpty() || zqWildcardMatch(name, names)) && !out.contains(id)) out.append(id);
+      }
+    }
+    return true;
+  }
   if (!handles.isEmpty()) {
     for (const QString& h : handles) {
       const OdDbObjectId id = db->getOdDbObjectId(OdDbHandle(OdString(h.trimmed())));

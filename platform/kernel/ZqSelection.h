@@ -25,9 +25,20 @@ class ZQKERNEL_API CZqSelectionFilter {
   QString layers;               // layer names, wildcards and commas
   std::optional<Space> space;   // unset: model space (or, with handles, wherever they are)
   bool blocks = false;          // also the objects inside block definitions
+  // Named records instead of drawing objects: the tables by word (layers,
+  // linetypes, textstyles, dimstyles) or record type (LAYER, LTYPE, STYLE,
+  // DIMSTYLE), comma list; `names` narrows them (wildcards, commas).
+  QString records;
+  QString names;
+
+  // The table a --records word names (the ids of its database's table), or
+  // false for a word that names none.
+  static bool ParseRecordKind(const QString& word, OdDbObjectId (OdDbDatabase::**table)() const);
 
   // Whether anything beyond the default (every object of model space) was asked for.
-  bool IsSet() const { return !handles.isEmpty() || !types.isEmpty() || !layers.isEmpty() || space || blocks; }
+  bool IsSet() const {
+    return !handles.isEmpty() || !types.isEmpty() || !layers.isEmpty() || space || blocks || !records.isEmpty();
+  }
 
   // "model", "paper" or "all" (also the translated words); false otherwise.
   static bool ParseSpace(const QString& word, Space& space);

@@ -294,7 +294,10 @@ OdDbObjectId objectServedBy(OdDbDatabase* db, OdRxClass* cls, const char* provid
     if (id.isNull()) continue;
     OdDbObjectPtr obj = id.openObject();
     CZqPropertyBase* pe = zqProviderFor(obj.get());
-    if (pe && pe->isA()->name().toStdString() == provider) return id;
+    // Style providers have no class descriptor of their own: their C++ type names them.
+    if (pe && (pe->isA() ? pe->isA()->name().toStdString() == provider
+                         : std::string(typeid(*pe).name()).find(provider) != std::string::npos))
+      return id;
   }
   return OdDbObjectId();
 }

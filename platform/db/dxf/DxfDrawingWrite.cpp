@@ -1,6 +1,7 @@
 // Writing: the records a database keeps brought up to date with it - edited
 // objects patched, erased ones dropped, new ones added where they belong,
-// renamed layers and linetypes renamed where they are named, $HANDSEED
+// renamed layers, linetypes, text styles and dimension styles renamed where
+// they are named, $HANDSEED
 // raised - then serialized. A database not read from a file starts from an
 // empty AC1015 drawing.
 #include "DbPlainClasses.h"
@@ -62,7 +63,13 @@ class Writer {
   Context& m_ctx;
   OdDbDatabase* m_db;
   Pending m_new;
-  QHash<QString, QString> m_layerRenames, m_linetypeRenames;  // case-folded old name -> new name
+  // Per kind of record (kRenameRules), its renames: case-folded old name -> new name.
+  QHash<QString, QString> m_renames[4];
+  bool anyRenames() const {
+    for (const auto& r : m_renames)
+      if (!r.isEmpty()) return true;
+    return false;
+  }
   quint64 m_maxWritten = 0;
   int m_lastEntities = -1;  // the ENTITIES section new entities go to
 };
@@ -131,8 +138,25 @@ void Writer::registerApps() {
   }
 }
 
-// Layers and linetypes are named in other records: a renamed one is renamed
-// there too. Other records' names are not followed, so renaming them is refused.
+// Where records of a table are named by other records: the group code of
+// the name and the record types that carry it (none listed: every entity
+// and block record). Dimension styles name their text style by handle,
+// which a rename leaves as it is.
+struct RenameRule {
+  const char* recordType;
+  int code;
+  std::initializer_list<const char*> in;
+  bool alsoLayers;  // LAYER records name it too
+};
+const RenameRule kRenameRules[] = {
+    {"LAYER", 8, {}, false},
+    {"LTYPE", 6, {}, true},
+    {"STYLE", 7, {"TEXT", "MTEXT", "ATTRIB", "ATTDEF", "ARCALIGNEDTEXT"}, false},
+    {"DIMSTYLE", 3, {"DIMENSION", "ARC_DIMENSION", "LARGE_RADIAL_DIMENSION", "LEADER", "TOLERANCE"}, false},
+};
+
+// A renamed record is renamed wherever another record names it. Other
+// tables' names are not followed, so renaming their records is refused.
 void Writer::collectRenames() {
   int s = 0;
   while (s < m_d.file.sections().size() && m_d.file.sections()[s].name != "TABLES") ++s;
@@ -149,26 +173,28 @@ void Writer::collectRenames() {
     OdDbObjectPtr open = OdDbObjectId(stub).openObject();
     const QString was = r.str(ni).trimmed(), now = rec->getName().qstring();
     if (was == now || blockName(was) == now) continue;
-    if (r.isType("LAYER"))
-      m_layerRenames.insert(was.toCaseFolded(), now);
-    else if (r.isType("LTYPE"))
-      m_linetypeRenames.insert(was.toCaseFolded(), now);
-    else
+    int k = 0;
+    while (k < int(std::size(kRenameRules)) && !r.isType(kRenameRules[k].recordType)) ++k;
+    if (k == int(std::size(kRenameRules)))
       throw MapError{QStringLiteral("%1 '%2' renamed to '%3': renaming it is not supported when saving")
                          .arg(typeName(r), was, now)};
+    m_renames[k].insert(was.toCaseFolded(), now);
   }
 }
 
 void Writer::rename(Record& r) {
-  auto fix = [&](int code, const QHash<QString, QString>& renames) {
-    if (renames.isEmpty()) return;
-    const int i = r.find(code);
-    if (i < 0 || r.at(i).code() != code) return;
-    const auto it = renames.find(r.str(i).trimmed().toCaseFolded());
-    if (it != renames.end()) writeString(m_ctx, r, i, it.value());
-  };
-  fix(8, m_layerRenames);
-  fix(6, m_linetypeRenames);
+  const bool isLayer = r.isType("LAYER");
+  for (int k = 0; k < int(std::size(kRenameRules)); ++k) {
+    const RenameRule& rule = kRenameRules[k];
+    if (m_renames[k].isEmpty()) continue;
+    bool applies = isLayer ? rule.alsoLayers : rule.in.size() == 0;
+    for (const char* type : rule.in) applies = applies || r.isType(type);
+    if (!applies) continue;
+    const int i = r.find(rule.code);
+    if (i < 0 || r.at(i).code() != rule.code) continue;
+    const auto it = m_renames[k].find(r.str(i).trimmed().toCaseFolded());
+    if (it != m_renames[k].end()) writeString(m_ctx, r, i, it.value());
+  }
 }
 
 void Writer::patch(Record& r, OdDbStub* stub, QList<Record>* sequence) {
@@ -320,7 +346,7 @@ void Writer::walk(int s) {
   Section& sec = m_d.file.sections()[s];
   std::vector<OdDbStub*>& owners = m_d.owners[size_t(s)];
   const bool isTables = sec.name == "TABLES", isBlocks = sec.name == "BLOCKS";
-  const bool isEntities = sec.name == "ENTITIES", renames = !m_layerRenames.isEmpty() || !m_linetypeRenames.isEmpty();
+  const bool isEntities = sec.name == "ENTITIES", renames = anyRenames();
   const OdDbObjectId model = m_db->getModelSpaceId(), paper = m_db->getPaperSpaceId();
 
   QList<Record> out;
@@ -399,7 +425,7 @@ void Writer::walk(int s) {
 // Whether a section has anything to bring up to date.
 bool Writer::needsWalk(int s) const {
   const Section& sec = m_d.file.sections()[s];
-  if (!m_layerRenames.isEmpty() || !m_linetypeRenames.isEmpty()) return true;
+  if (anyRenames()) return true;
   if (sec.name == "TABLES")
     for (const auto& list : m_new.records)
       if (!list.empty()) return true;

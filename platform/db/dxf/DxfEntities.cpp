@@ -389,6 +389,8 @@ constexpr ClassMapping kEntities[] = {
     {"TOLERANCE",  &OdDbFcf::desc,         0,    &fieldsOf<OdDbFcf, fcfFields>,                     false},
     // Multileaders: the context data is kept; only the values modelled are patched.
     {"MULTILEADER", &OdDbMLeader::desc,    0,    &fieldsOf<OdDbMLeader, mleaderFields>,             false, true},
+    // Viewports: clipping, UCS, grid and lighting are not mapped.
+    {"VIEWPORT",   &OdDbViewport::desc,    0,    &fieldsOf<OdDbViewport, viewportFields>,           false, true},
     // Arc-aligned text: its font names and the arc it follows are not mapped.
     {"ARCALIGNEDTEXT", &OdDbArcAlignedText::desc, 1012, &fieldsOf<OdDbArcAlignedText, arcAlignedTextFields>, false, true},
 };

@@ -61,6 +61,8 @@ class OdDbLeader;
 class OdDbFcf;
 class OdDbMLeader;
 
+class OdDbViewport;
+
 namespace OdDxf::mapping {
 
 // Thrown by reading code for a malformed value; readDrawing turns it into
@@ -463,6 +465,7 @@ void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 
 // Entities whose data the platform models; the rest keep their common
 // properties only.
+void viewportFields(Fields<OdDbViewport>& f);
 const ClassMapping* entityMapping(const OdRxClass* cls);
 // Block references, tables, images, underlays, OLE frames and proxies
 // (DxfBlocks.cpp).
