@@ -1,4 +1,5 @@
 #include "MLeader.h"
+#include <map>
 #include "Dimension.h"
 #include "Leader.h"
 #include "ZqInfoFrame.h"
@@ -362,10 +363,15 @@ const char* const kBottomLightIcon = ":/Mleader/svg_icons/light//Mleader/mld_Rig
 
 void addContentRows(CZqPropertiesContainer* container, std::span<const ContentRow> rows) {
   const QString scaleText = QCoreApplication::translate("CZqMLeaderPE", "Edit annotation scales");
+  // The descriptions keep a pointer to their row: the rows live as long as
+  // the tables they are made from.
+  static std::map<const ContentRow*, ZqRow> made;
   for (const ContentRow& r : rows) {
-    const ZqRow row{r.category, r.name, r.type, r.typeId, isContentReadOnly, getContent, setContent, r.icon,
-                    kVisKeep, kZqAny, r.folder};
-    CZqCustomPropertyDescription* d = ZqBuildDynamicDescription(row);
+    auto it = made.find(&r);
+    if (it == made.end())
+      it = made.emplace(&r, ZqRow{r.category, r.name, r.type, r.typeId, isContentReadOnly, getContent, setContent, r.icon,
+                                  kVisKeep, kZqAny, r.folder}).first;
+    CZqCustomPropertyDescription* d = ZqBuildDynamicDescription(it->second);
     if (QLatin1String(r.name) == QLatin1String("Bottom attachment")) d->SetLightIcon(CZqString(kBottomLightIcon));
     d->SetDescription(CZqString(scaleText));
     container->AddDynamic(d);
@@ -382,8 +388,8 @@ void dynamicRows(const OdDbObject* object, CZqPropertiesContainer* container) {
                                    ZqStyled::getAnnotative, nullptr, "Misc_annotative"};
   container->AddDynamic(ZqBuildDynamicDescription(annotative));
   if (ZqDim::isAnnotative(object)) {
-    const ContentRow scale[] = {{ZQ_MISC, PT("Annotative Scale"), kZqUntyped, ZqGuid::kLineEditToolButtonGUID,
-                                 "Misc_annotative_scale", "Misc"}};
+    static const ContentRow scale[] = {{ZQ_MISC, PT("Annotative Scale"), kZqUntyped, ZqGuid::kLineEditToolButtonGUID,
+                                        "Misc_annotative_scale", "Misc"}};
     addContentRows(container, scale);
   }
   switch (m->contentType()) {

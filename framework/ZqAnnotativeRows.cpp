@@ -7,6 +7,9 @@
 
 #include <QCoreApplication>
 
+#include <map>
+#include <string>
+
 // The description of each owner's grouped action, for the catalog.
 [[maybe_unused]] constexpr const char* kEditScales[] = {
     QT_TRANSLATE_NOOP("CZqTextPE", "Edit annotation scales"),    QT_TRANSLATE_NOOP("CZqMTextPE", "Edit annotation scales"),
@@ -75,14 +78,21 @@ bool ZqIsAnnotationScaleReadOnly(const OdDbObject* object, const CZqPropertyDesc
 
 void ZqAddAnnotativeRows(const OdDbObject* object, CZqPropertiesContainer* container, const char* category,
                          const char* owner) {
-  const ZqRow annotative = {category, QT_TRANSLATE_NOOP("property_types", "Annotative"), kZqUntyped, nullptr, kZqEditable,
-                            ZqGetAnnotative, ZqSetAnnotative, "Misc_annotative", kVisKeep, kZqAny, "Misc"};
-  container->AddDynamic(ZqBuildDynamicDescription(annotative));
+  // The two rows of each category, made once: descriptions keep a pointer
+  // to the row they were built from.
+  static std::map<std::string, std::pair<ZqRow, ZqRow>> made;
+  auto it = made.find(category);
+  if (it == made.end()) {
+    const ZqRow annotative = {category, QT_TRANSLATE_NOOP("property_types", "Annotative"), kZqUntyped, nullptr,
+                              kZqEditable, ZqGetAnnotative, ZqSetAnnotative, "Misc_annotative", kVisKeep, kZqAny, "Misc"};
+    const ZqRow scale = {category, QT_TRANSLATE_NOOP("property_types", "Annotative Scale"), kZqUntyped,
+                         ZqGuid::kLineEditToolButtonGUID, ZqIsAnnotationScaleReadOnly, ZqGetAnnotationScale, nullptr,
+                         "Misc_annotative_scale", kVisKeep, kZqAny, "Misc"};
+    it = made.emplace(category, std::pair{annotative, scale}).first;
+  }
+  container->AddDynamic(ZqBuildDynamicDescription(it->second.first));
   if (!ZqIsAnnotative(object)) return;
-  const ZqRow scale = {category, QT_TRANSLATE_NOOP("property_types", "Annotative Scale"), kZqUntyped,
-                       ZqGuid::kLineEditToolButtonGUID, ZqIsAnnotationScaleReadOnly, ZqGetAnnotationScale, nullptr,
-                       "Misc_annotative_scale", kVisKeep, kZqAny, "Misc"};
-  CZqCustomPropertyDescription* d = ZqBuildDynamicDescription(scale);
+  CZqCustomPropertyDescription* d = ZqBuildDynamicDescription(it->second.second);
   d->SetVisibility(d->GetVisibility() ^ 8);
   d->PutGroupActionMethod(ZqAnnotationScalesAction);
   d->SetDescription(CZqString(QCoreApplication::translate(owner, "Edit annotation scales")));

@@ -70,7 +70,13 @@ CZqPropertiesWindowService::RowFilter ZqRowPicker::filter() const {
   return [this, memo](const CZqString& ck, const CZqString& nk, const CZqString& c, const CZqString& n) {
     const std::array<const void*, 4> key{ck.qstring().constData(), nk.qstring().constData(), c.qstring().constData(),
                                          n.qstring().constData()};
-    if (auto it = memo->answers.find(key); it != memo->answers.end()) return it->second.picked;
+    // The texts' storage may be reused by other texts once freed: an answer
+    // counts only for the same texts.
+    if (auto it = memo->answers.find(key); it != memo->answers.end()) {
+      const Memo::Entry& e = it->second;
+      if (e.ck == ck.qstring() && e.nk == nk.qstring() && e.c == c.qstring() && e.n == n.qstring()) return e.picked;
+      memo->answers.erase(it);
+    }
     const bool picked = picks(ck, nk, c, n);
     if (memo->answers.size() < 4096) memo->answers.emplace(key, Memo::Entry{ck.qstring(), nk.qstring(), c.qstring(), n.qstring(), picked});
     return picked;
@@ -213,6 +219,7 @@ namespace {
 // and texts up to its "value" key, prepared once per row and not per object.
 struct RowHead {
   std::string json;
+  QString nameKey;  // a shared description may be renamed for one object (an annotative text's height)
   int key = 0;   // the row key's number, to tell a repeated key within one object
   int type = 0;  // the editor kind the text was made with
 };
@@ -231,7 +238,8 @@ class RowHeads {
     }
     auto& map = d.IsDynamic() ? m_byRowData : m_byDescription;
     auto it = map.find(id);
-    if (it == map.end() || it->second.type != type) it = map.insert_or_assign(id, make(d, type, QString())).first;
+    if (it == map.end() || it->second.type != type || it->second.nameKey != d.GetNameKey().qstring())
+      it = map.insert_or_assign(id, make(d, type, QString())).first;
     return it->second;
   }
   // The head of a row whose key repeats within one object: "Key#n".
@@ -245,6 +253,7 @@ class RowHeads {
     const QString key = categoryKey + '/' + nameKey;
     RowHead h;
     h.type = type;
+    h.nameKey = nameKey;
     h.key = m_keys.emplace(key, int(m_keys.size())).first->second;
     ZqJsonWriter::quoteTo(h.json, key + suffix);
     h.json += ":{\"category\":";
@@ -278,7 +287,7 @@ class KindHeads {
     json += ",\"class\":";
     ZqJsonWriter::quoteTo(json, cls ? cls->name().qstring() : QString());
     json += ",\"provider\":";
-    ZqJsonWriter::quoteTo(json, pe && pe->isA() ? pe->isA()->name().qstring() : QString());
+    ZqJsonWriter::quoteTo(json, obj ? zqProviderName(obj) : QString());
     json += ",\"name\":";
     return m_heads.emplace(std::pair{cls, pe}, std::move(json)).first->second;
   }

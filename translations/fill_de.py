@@ -718,6 +718,24 @@ for k, v in {"Scale relative to paper space": "Maßstab relativ zum Papierbereic
 for k, v in {"On": "Ein", "Off": "Aus"}.items():
     DE.setdefault("info_values", {}).setdefault(k, v)
 
+# Solids: history kinds and refusals
+DE.setdefault("errors", {}).update({
+    "%1 cannot be changed here: the solid's body would have to be built again from its history. Nothing was changed.":
+        "%1 kann hier nicht geändert werden: der Körper des Volumenkörpers müsste aus seinem Verlauf neu aufgebaut werden. Es wurde nichts geändert.",
+    "%1 cannot be changed here: the surface would have to be built again from the curves that made it. Nothing was changed.":
+        "%1 kann hier nicht geändert werden: die Fläche müsste aus den Kurven, die sie erzeugt haben, neu aufgebaut werden. Es wurde nichts geändert.",
+})
+DE.setdefault("info_items", {}).update({"Bounding box": "Umgrenzungsquader"})
+DE.setdefault("property_values", {}).update({
+    "Loft with path": "Anheben mit Pfad", "Loft with cross sections only": "Anheben nur mit Querschnitten",
+    "Corner": "Ecke", "Side": "Seite", "Ruled": "Regelfläche", "Smooth fit": "Glatt angepasst", "Normal to": "Lotrecht zu",
+    "Draft angles": "Neigungswinkel", "All Cross Sections": "Alle Querschnitte",
+    "Beginning and Ending Cross Sections": "Anfangs- und Endquerschnitt", "Beginning Cross Section": "Anfangsquerschnitt",
+    "Ending Cross Section": "Endquerschnitt", "Smooth": "Glatt", "First normal": "Erste Normale",
+    "Last normal": "Letzte Normale", "Ends normal": "Enden lotrecht", "All normal": "Alle lotrecht",
+    "Use draft angles": "Neigungswinkel verwenden",
+})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

@@ -3,5 +3,5 @@
 # translations, drops keys no longer used).
 set -euo pipefail
 cd "$(dirname "$0")/.."
-/usr/lib/qt6/bin/lupdate -no-obsolete -locations none module framework curves annotation platform/kernel platform/db host \
+/usr/lib/qt6/bin/lupdate -no-obsolete -locations none module framework curves fills annotation solids blocks records platform/kernel platform/db host \
   -ts translations/zqprops_de.ts

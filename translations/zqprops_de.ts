@@ -83,6 +83,10 @@
         <source>No</source>
         <translation>Nein</translation>
     </message>
+    <message>
+        <source>Edit annotation scales</source>
+        <translation>Beschriftungsmaßstäbe bearbeiten</translation>
+    </message>
 </context>
 <context>
     <name>CZqDlgCloudSettings</name>
@@ -111,10 +115,52 @@
     </message>
 </context>
 <context>
+    <name>CZqFcfPE</name>
+    <message>
+        <source>Edit annotation scales</source>
+        <translation>Beschriftungsmaßstäbe bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>CZqHatchPE</name>
+    <message>
+        <source>%1 sq. in. (%2 sq. ft.)</source>
+        <translation>%1 sq. in. (%2 sq. ft.)</translation>
+    </message>
+</context>
+<context>
+    <name>CZqLeaderPE</name>
+    <message>
+        <source>Edit annotation scales</source>
+        <translation>Beschriftungsmaßstäbe bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>CZqMLeaderPE</name>
+    <message>
+        <source>Edit annotation scales</source>
+        <translation>Beschriftungsmaßstäbe bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>CZqMTextPE</name>
+    <message>
+        <source>Edit annotation scales</source>
+        <translation>Beschriftungsmaßstäbe bearbeiten</translation>
+    </message>
+</context>
+<context>
     <name>CZqPolylinePE</name>
     <message>
         <source>%1 sq. in. (%2 sq. ft.)</source>
         <translation>%1 sq. in. (%2 sq. ft.)</translation>
+    </message>
+</context>
+<context>
+    <name>CZqRegionPE</name>
+    <message>
+        <source>%1 sq. in. (%2 sq. ft.)</source>
+        <translation type="unfinished">%1 sq. in. (%2 sq. ft.)</translation>
     </message>
 </context>
 <context>
@@ -139,12 +185,23 @@
         <source>Space takes model, paper or all, not "%1".</source>
         <translation>Space nimmt model, paper oder all, nicht "%1".</translation>
     </message>
+    <message>
+        <source>"%1" names no kind of record: use layers, linetypes, textstyles or dimstyles.</source>
+        <translation>"%1" ist keine Art von Einträgen: layers, linetypes, textstyles oder dimstyles verwenden.</translation>
+    </message>
 </context>
 <context>
     <name>CZqSplinePE_Prop</name>
     <message>
         <source>%1 sq. in. (%2 sq. ft.)</source>
         <translation>%1 sq. in. (%2 sq. ft.)</translation>
+    </message>
+</context>
+<context>
+    <name>CZqTextPE</name>
+    <message>
+        <source>Edit annotation scales</source>
+        <translation>Beschriftungsmaßstäbe bearbeiten</translation>
     </message>
 </context>
 <context>
@@ -397,6 +454,86 @@
     <message>
         <source>MText</source>
         <translation>MText</translation>
+    </message>
+    <message>
+        <source>Leader</source>
+        <translation>Führung</translation>
+    </message>
+    <message>
+        <source>MultiLeader</source>
+        <translation>Multi-Führungslinie</translation>
+    </message>
+    <message>
+        <source>Tolerance</source>
+        <translation>Toleranz</translation>
+    </message>
+    <message>
+        <source>Hatch</source>
+        <translation>Schraffur</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Körper</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>3D Solid</source>
+        <translation>3D-Volumenkörper</translation>
+    </message>
+    <message>
+        <source>Surface (Planar)</source>
+        <translation>Fläche (eben)</translation>
+    </message>
+    <message>
+        <source>Surface (Extrusion)</source>
+        <translation>Fläche (Extrusion)</translation>
+    </message>
+    <message>
+        <source>Surface (Revolve)</source>
+        <translation>Fläche (Rotation)</translation>
+    </message>
+    <message>
+        <source>Surface (Sweep)</source>
+        <translation>Fläche (Sweep)</translation>
+    </message>
+    <message>
+        <source>Surface (Loft)</source>
+        <translation>Fläche (Erhebung)</translation>
+    </message>
+    <message>
+        <source>Block Reference</source>
+        <translation>Blockreferenz</translation>
+    </message>
+    <message>
+        <source>Multiple Block Reference</source>
+        <translation>Mehrfach-Blockreferenz</translation>
+    </message>
+    <message>
+        <source>Proxy Entity</source>
+        <translation>Proxy-Objekt</translation>
+    </message>
+    <message>
+        <source>Dimension Style</source>
+        <translation>Bemaßungsstil</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
+        <source>Linetype</source>
+        <translation>Linientyp</translation>
+    </message>
+    <message>
+        <source>Text Style</source>
+        <translation>Textstil</translation>
+    </message>
+    <message>
+        <source>Viewport</source>
+        <translation>Ansichtsfenster</translation>
     </message>
 </context>
 <context>
@@ -765,6 +902,134 @@
         <source>A hyperlink needs a drawing saved as %1 or later; this drawing is %2.</source>
         <translation>Ein Hyperlink braucht eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.</translation>
     </message>
+    <message>
+        <source>A text justified Aligned or Fit cannot be annotative.</source>
+        <translation>Ein Text mit der Ausrichtung Ausgerichtet oder Eingepasst kann nicht beschriftend sein.</translation>
+    </message>
+    <message>
+        <source>record</source>
+        <translation>Eintrag</translation>
+    </message>
+    <message>
+        <source>The %1 "%2" is part of every drawing and cannot be renamed.</source>
+        <translation>%1 "%2" gehört zu jeder Zeichnung und kann nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>A name cannot be empty.</source>
+        <translation>Ein Name darf nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain any of the characters %1; "%2" contains %3.</source>
+        <translation>Ein Name darf keines der Zeichen %1 enthalten; "%2" enthält %3.</translation>
+    </message>
+    <message>
+        <source>A name cannot begin or end with a blank.</source>
+        <translation>Ein Name darf nicht mit einem Leerzeichen beginnen oder enden.</translation>
+    </message>
+    <message>
+        <source>A %1 named "%2" already exists.</source>
+        <translation>%1 "%2" gibt es bereits.</translation>
+    </message>
+    <message>
+        <source>The drawing has no multileader style "%1".</source>
+        <translation>Die Zeichnung hat keinen Multi-Führungslinienstil "%1".</translation>
+    </message>
+    <message>
+        <source>The multileader's block is missing from the drawing.</source>
+        <translation>Der Block der Multi-Führungslinie fehlt in der Zeichnung.</translation>
+    </message>
+    <message>
+        <source>A multileader text cannot hold control characters; use \P for a new line.</source>
+        <translation>Ein Multi-Führungslinientext kann keine Steuerzeichen enthalten; für eine neue Zeile \P verwenden.</translation>
+    </message>
+    <message>
+        <source>The object is not open for changes.</source>
+        <translation>Das Objekt ist nicht zum Ändern geöffnet.</translation>
+    </message>
+    <message>
+        <source>Annotative objects need a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Beschriftende Objekte brauchen eine Zeichnung im Format %1 oder neuer; diese Zeichnung ist %2.</translation>
+    </message>
+    <message>
+        <source>Only an annotative object can follow the orientation of the sheet.</source>
+        <translation>Nur ein beschriftendes Objekt kann der Ausrichtung des Blatts folgen.</translation>
+    </message>
+    <message>
+        <source>There is no hatch pattern named "%1".</source>
+        <translation>Es gibt kein Schraffurmuster namens "%1".</translation>
+    </message>
+    <message>
+        <source>Only a hatch made from boundary objects can be associative</source>
+        <translation>Nur eine aus Umgrenzungsobjekten erzeugte Schraffur kann assoziativ sein</translation>
+    </message>
+    <message>
+        <source>A gradient colour must be a colour of its own, not ByLayer or ByBlock</source>
+        <translation>Eine Verlaufsfarbe muss eine eigene Farbe sein, nicht VonLayer oder VonBlock</translation>
+    </message>
+    <message>
+        <source>The solid's position is not known, so it cannot be moved.</source>
+        <translation>Die Position des Volumenkörpers ist unbekannt, daher kann er nicht verschoben werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed here: the solid's body would have to be built again from its history. Nothing was changed.</source>
+        <translation>%1 kann hier nicht geändert werden: der Körper des Volumenkörpers müsste aus seinem Verlauf neu aufgebaut werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>A pyramid has from 3 to 32 sides.</source>
+        <translation>Eine Pyramide hat 3 bis 32 Seiten.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed here: the surface would have to be built again from the curves that made it. Nothing was changed.</source>
+        <translation>%1 kann hier nicht geändert werden: die Fläche müsste aus den Kurven, die sie erzeugt haben, neu aufgebaut werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>A layout cannot be placed as a block.</source>
+        <translation>Ein Layout kann nicht als Block eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>A block cannot contain a reference to itself.</source>
+        <translation>Ein Block kann keine Referenz auf sich selbst enthalten.</translation>
+    </message>
+    <message>
+        <source>A scale factor cannot be 0.</source>
+        <translation>Ein Skalierfaktor kann nicht 0 sein.</translation>
+    </message>
+    <message>
+        <source>Rows and columns are counted in whole numbers.</source>
+        <translation>Zeilen und Spalten werden in ganzen Zahlen gezählt.</translation>
+    </message>
+    <message>
+        <source>Precision must be a whole number from 0 to 8.</source>
+        <translation>Die Genauigkeit muss eine ganze Zahl von 0 bis 8 sein.</translation>
+    </message>
+    <message>
+        <source>The current layer cannot be frozen.</source>
+        <translation>Der aktuelle Layer kann nicht gefroren werden.</translation>
+    </message>
+    <message>
+        <source>A layer's color must be a color of its own, not ByLayer or ByBlock.</source>
+        <translation>Die Farbe eines Layers muss eine eigene Farbe sein, nicht VonLayer oder VonBlock.</translation>
+    </message>
+    <message>
+        <source>A layer's linetype must be a linetype of its own, not ByLayer or ByBlock.</source>
+        <translation>Der Linientyp eines Layers muss ein eigener Linientyp sein, nicht VonLayer oder VonBlock.</translation>
+    </message>
+    <message>
+        <source>A layer's lineweight must be Default or a standard lineweight from 0.00 mm to 2.11 mm.</source>
+        <translation>Die Linienstärke eines Layers muss Vorgabe oder eine Standardlinienstärke von 0,00 mm bis 2,11 mm sein.</translation>
+    </message>
+    <message>
+        <source>A layer's transparency must be a whole percentage from 0 to 90.</source>
+        <translation>Die Transparenz eines Layers muss ein ganzer Prozentwert von 0 bis 90 sein.</translation>
+    </message>
+    <message>
+        <source>A viewport without height has no scale.</source>
+        <translation>Ein Ansichtsfenster ohne Höhe hat keinen Maßstab.</translation>
+    </message>
+    <message>
+        <source>The layout's own paper view cannot be changed.</source>
+        <translation>Die Papieransicht des Layouts selbst kann nicht geändert werden.</translation>
+    </message>
 </context>
 <context>
     <name>info_items</name>
@@ -1064,6 +1329,150 @@
         <source>line spacing factor</source>
         <translation>Zeilenabstandsfaktor</translation>
     </message>
+    <message>
+        <source>Sheet text height</source>
+        <translation>Papiertexthöhe</translation>
+    </message>
+    <message>
+        <source>Model text height</source>
+        <translation>Modelltexthöhe</translation>
+    </message>
+    <message>
+        <source>Pattern type</source>
+        <translation>Mustertyp</translation>
+    </message>
+    <message>
+        <source>Pattern name</source>
+        <translation>Mustername</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <translation>Doppelt</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation>Ursprung</translation>
+    </message>
+    <message>
+        <source>Gradient name</source>
+        <translation>Verlaufsname</translation>
+    </message>
+    <message>
+        <source>Associative</source>
+        <translation>Assoziativ</translation>
+    </message>
+    <message>
+        <source>Island detection style</source>
+        <translation>Inselerkennungsstil</translation>
+    </message>
+    <message>
+        <source>Boundaries</source>
+        <translation>Umgrenzungen</translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation>Erhebung</translation>
+    </message>
+    <message>
+        <source>Bounding box</source>
+        <translation>Umgrenzungsquader</translation>
+    </message>
+    <message>
+        <source>Block Name</source>
+        <translation>Blockname</translation>
+    </message>
+    <message>
+        <source>at point</source>
+        <translation>bei Punkt</translation>
+    </message>
+    <message>
+        <source>X scale factor</source>
+        <translation>X-Skalierfaktor</translation>
+    </message>
+    <message>
+        <source>Y scale factor</source>
+        <translation>Y-Skalierfaktor</translation>
+    </message>
+    <message>
+        <source>Z scale factor</source>
+        <translation>Z-Skalierfaktor</translation>
+    </message>
+    <message>
+        <source>Extrusion direction</source>
+        <translation>Extrusionsrichtung</translation>
+    </message>
+    <message>
+        <source>Unit factor</source>
+        <translation>Einheitenfaktor</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Column spacing</source>
+        <translation>Spaltenabstand</translation>
+    </message>
+    <message>
+        <source>Row spacing</source>
+        <translation>Zeilenabstand</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
+        <source>Original class name</source>
+        <translation>Ursprünglicher Klassenname</translation>
+    </message>
+    <message>
+        <source>DXF name</source>
+        <translation>DXF-Name</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>Anwendung</translation>
+    </message>
+    <message>
+        <source>Allowed operations</source>
+        <translation>Erlaubte Operationen</translation>
+    </message>
+    <message>
+        <source>Center point</source>
+        <translation>Mittelpunkt</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Scale relative to paper space</source>
+        <translation>Maßstab relativ zum Papierbereich</translation>
+    </message>
 </context>
 <context>
     <name>info_values</name>
@@ -1187,6 +1596,42 @@
         <source>By style</source>
         <translation>Nach Stil</translation>
     </message>
+    <message>
+        <source>leader</source>
+        <translation>Führung</translation>
+    </message>
+    <message>
+        <source>Straight</source>
+        <translation>Gerade</translation>
+    </message>
+    <message>
+        <source>Spline</source>
+        <translation>Spline</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished">Keine</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Tolerance</source>
+        <translation type="unfinished">Toleranzen</translation>
+    </message>
+    <message>
+        <source>not computable (the boundary crosses itself or is open)</source>
+        <translation>nicht berechenbar (die Umgrenzung schneidet sich selbst oder ist offen)</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
 </context>
 <context>
     <name>property_groups</name>
@@ -1241,6 +1686,26 @@
     <message>
         <source>Columns</source>
         <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Leaders</source>
+        <translation>Führungslinien</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Block</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>Attribute</translation>
     </message>
 </context>
 <context>
@@ -1483,7 +1948,7 @@
     </message>
     <message>
         <source>Spacing</source>
-        <translation>Breitenfaktor</translation>
+        <translation>Abstand</translation>
     </message>
     <message>
         <source>Text alignment X</source>
@@ -1732,6 +2197,262 @@
     <message>
         <source>Column height</source>
         <translation>Spaltenhöhe</translation>
+    </message>
+    <message>
+        <source>Annotative</source>
+        <translation>Beschriftend</translation>
+    </message>
+    <message>
+        <source>Annotative Scale</source>
+        <translation>Beschriftungsmaßstab</translation>
+    </message>
+    <message>
+        <source>Sheet text height</source>
+        <translation>Papiertexthöhe</translation>
+    </message>
+    <message>
+        <source>Match orientation to sheet</source>
+        <translation>Ausrichtung an Blatt anpassen</translation>
+    </message>
+    <message>
+        <source>Edit annotation scales</source>
+        <translation>Beschriftungsmaßstäbe bearbeiten</translation>
+    </message>
+    <message>
+        <source>Model text height</source>
+        <translation>Modelltexthöhe</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Pattern name</source>
+        <translation>Mustername</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <translation>Doppelt</translation>
+    </message>
+    <message>
+        <source>Origin X</source>
+        <translation>Ursprung X</translation>
+    </message>
+    <message>
+        <source>Origin Y</source>
+        <translation>Ursprung Y</translation>
+    </message>
+    <message>
+        <source>Associative</source>
+        <translation>Assoziativ</translation>
+    </message>
+    <message>
+        <source>Island detection style</source>
+        <translation>Inselerkennungsstil</translation>
+    </message>
+    <message>
+        <source>Background color</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Boundaries</source>
+        <translation>Umgrenzungen</translation>
+    </message>
+    <message>
+        <source>Gradient name</source>
+        <translation>Verlaufsname</translation>
+    </message>
+    <message>
+        <source>Color 1</source>
+        <translation>Farbe 1</translation>
+    </message>
+    <message>
+        <source>Color 2</source>
+        <translation>Farbe 2</translation>
+    </message>
+    <message>
+        <source>Gradient angle</source>
+        <translation>Verlaufswinkel</translation>
+    </message>
+    <message>
+        <source>Centered</source>
+        <translation>Zentriert</translation>
+    </message>
+    <message>
+        <source>Perimeter</source>
+        <translation>Umfang</translation>
+    </message>
+    <message>
+        <source>Scale X</source>
+        <translation>Skalierung X</translation>
+    </message>
+    <message>
+        <source>Scale Y</source>
+        <translation>Skalierung Y</translation>
+    </message>
+    <message>
+        <source>Scale Z</source>
+        <translation>Skalierung Z</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Unit factor</source>
+        <translation>Einheitenfaktor</translation>
+    </message>
+    <message>
+        <source>Uniform scale</source>
+        <translation>Einheitlich skalieren</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Column spacing</source>
+        <translation>Spaltenabstand</translation>
+    </message>
+    <message>
+        <source>Row spacing</source>
+        <translation>Zeilenabstand</translation>
+    </message>
+    <message>
+        <source>Original class name</source>
+        <translation>Ursprünglicher Klassenname</translation>
+    </message>
+    <message>
+        <source>DXF name</source>
+        <translation>DXF-Name</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>Anwendung</translation>
+    </message>
+    <message>
+        <source>Allowed operations</source>
+        <translation>Erlaubte Operationen</translation>
+    </message>
+    <message>
+        <source>Arrow size</source>
+        <translation>Pfeilgröße</translation>
+    </message>
+    <message>
+        <source>ExtLine ext</source>
+        <translation>Hilfslinienverlängerung</translation>
+    </message>
+    <message>
+        <source>ExtLine offset</source>
+        <translation>Hilfslinienabstand</translation>
+    </message>
+    <message>
+        <source>Text height</source>
+        <translation>Texthöhe</translation>
+    </message>
+    <message>
+        <source>Text offset</source>
+        <translation>Textabstand</translation>
+    </message>
+    <message>
+        <source>Dim scale overall</source>
+        <translation>Gesamtmaßstab</translation>
+    </message>
+    <message>
+        <source>Precision</source>
+        <translation>Genauigkeit</translation>
+    </message>
+    <message>
+        <source>Dim scale linear</source>
+        <translation>Linearer Maßstab</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>Gefroren</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>Plotten</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Pattern length</source>
+        <translation>Musterlänge</translation>
+    </message>
+    <message>
+        <source>Dashes</source>
+        <translation>Striche</translation>
+    </message>
+    <message>
+        <source>Font name</source>
+        <translation>Schriftname</translation>
+    </message>
+    <message>
+        <source>Big font</source>
+        <translation>Großschrift</translation>
+    </message>
+    <message>
+        <source>Width factor</source>
+        <translation>Breitenfaktor</translation>
+    </message>
+    <message>
+        <source>Oblique angle</source>
+        <translation>Neigungswinkel</translation>
+    </message>
+    <message>
+        <source>Backwards</source>
+        <translation>Rückwärts</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>Auf dem Kopf</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>Clipped</source>
+        <translation>Zugeschnitten</translation>
+    </message>
+    <message>
+        <source>Display locked</source>
+        <translation>Anzeige gesperrt</translation>
+    </message>
+    <message>
+        <source>Standard scale</source>
+        <translation>Standardmaßstab</translation>
+    </message>
+    <message>
+        <source>Custom scale</source>
+        <translation>Benutzerdefinierter Maßstab</translation>
+    </message>
+    <message>
+        <source>View twist</source>
+        <translation>Ansichtsdrehung</translation>
+    </message>
+    <message>
+        <source>Shade plot</source>
+        <translation>Schattierungsplot</translation>
+    </message>
+    <message>
+        <source>Frozen layers</source>
+        <translation>Gefrorene Layer</translation>
     </message>
 </context>
 <context>
@@ -2111,6 +2832,401 @@
     <message>
         <source>Dynamic</source>
         <translation>Dynamisch</translation>
+    </message>
+    <message>
+        <source>Line with no arrow</source>
+        <translation>Linie ohne Pfeil</translation>
+    </message>
+    <message>
+        <source>Spline with no arrow</source>
+        <translation>Spline ohne Pfeil</translation>
+    </message>
+    <message>
+        <source>Line with arrow</source>
+        <translation>Linie mit Pfeil</translation>
+    </message>
+    <message>
+        <source>Spline with arrow</source>
+        <translation>Spline mit Pfeil</translation>
+    </message>
+    <message>
+        <source>Predefined</source>
+        <translation>Vordefiniert</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Outer</source>
+        <translation>Äußere</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorieren</translation>
+    </message>
+    <message>
+        <source>Not computable</source>
+        <translation>Nicht berechenbar</translation>
+    </message>
+    <message>
+        <source>Cylinder</source>
+        <translation>Zylinder</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>Kegel</translation>
+    </message>
+    <message>
+        <source>Pyramid</source>
+        <translation>Pyramide</translation>
+    </message>
+    <message>
+        <source>Sphere</source>
+        <translation>Kugel</translation>
+    </message>
+    <message>
+        <source>Torus</source>
+        <translation>Torus</translation>
+    </message>
+    <message>
+        <source>Wedge</source>
+        <translation>Keil</translation>
+    </message>
+    <message>
+        <source>Extrude</source>
+        <translation>Extrusion</translation>
+    </message>
+    <message>
+        <source>Revolve</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Sweep</translation>
+    </message>
+    <message>
+        <source>Loft with path</source>
+        <translation>Anheben mit Pfad</translation>
+    </message>
+    <message>
+        <source>Loft with guide curves</source>
+        <translation>Erhebung mit Führungskurven</translation>
+    </message>
+    <message>
+        <source>Loft with cross sections only</source>
+        <translation>Anheben nur mit Querschnitten</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Ecke</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Ruled</source>
+        <translation>Regelfläche</translation>
+    </message>
+    <message>
+        <source>Smooth fit</source>
+        <translation>Glatt angepasst</translation>
+    </message>
+    <message>
+        <source>Normal to</source>
+        <translation>Lotrecht zu</translation>
+    </message>
+    <message>
+        <source>Draft angles</source>
+        <translation>Neigungswinkel</translation>
+    </message>
+    <message>
+        <source>All Cross Sections</source>
+        <translation>Alle Querschnitte</translation>
+    </message>
+    <message>
+        <source>Beginning and Ending Cross Sections</source>
+        <translation>Anfangs- und Endquerschnitt</translation>
+    </message>
+    <message>
+        <source>Beginning Cross Section</source>
+        <translation>Anfangsquerschnitt</translation>
+    </message>
+    <message>
+        <source>Ending Cross Section</source>
+        <translation>Endquerschnitt</translation>
+    </message>
+    <message>
+        <source>Planar</source>
+        <translation>Eben</translation>
+    </message>
+    <message>
+        <source>Extruded</source>
+        <translation>Extrudiert</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Glatt</translation>
+    </message>
+    <message>
+        <source>First normal</source>
+        <translation>Erste Normale</translation>
+    </message>
+    <message>
+        <source>Last normal</source>
+        <translation>Letzte Normale</translation>
+    </message>
+    <message>
+        <source>Ends normal</source>
+        <translation>Enden lotrecht</translation>
+    </message>
+    <message>
+        <source>All normal</source>
+        <translation>Alle lotrecht</translation>
+    </message>
+    <message>
+        <source>Use draft angles</source>
+        <translation>Neigungswinkel verwenden</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Transform</source>
+        <translation>Transformieren</translation>
+    </message>
+    <message>
+        <source>Color change</source>
+        <translation>Farbänderung</translation>
+    </message>
+    <message>
+        <source>Layer change</source>
+        <translation>Layeränderung</translation>
+    </message>
+    <message>
+        <source>Linetype change</source>
+        <translation>Linientypänderung</translation>
+    </message>
+    <message>
+        <source>Linetype scale change</source>
+        <translation>Linientypfaktoränderung</translation>
+    </message>
+    <message>
+        <source>Visibility change</source>
+        <translation>Sichtbarkeitsänderung</translation>
+    </message>
+    <message>
+        <source>Cloning</source>
+        <translation>Klonen</translation>
+    </message>
+    <message>
+        <source>Lineweight change</source>
+        <translation>Linienstärkenänderung</translation>
+    </message>
+    <message>
+        <source>Plot style change</source>
+        <translation>Plotstiländerung</translation>
+    </message>
+    <message>
+        <source>Material change</source>
+        <translation>Materialänderung</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>As Displayed</source>
+        <translation>Wie angezeigt</translation>
+    </message>
+    <message>
+        <source>Wireframe</source>
+        <translation>Drahtmodell</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Verdeckt</translation>
+    </message>
+    <message>
+        <source>Rendered</source>
+        <translation>Gerendert</translation>
+    </message>
+</context>
+<context>
+    <name>zqpalette</name>
+    <message>
+        <source>zqpalette: there is no translation catalog for the language "%1"; the window stays in English.</source>
+        <translation>zqpalette: für die Sprache "%1" gibt es keinen Übersetzungskatalog; das Fenster bleibt englisch.</translation>
+    </message>
+    <message>
+        <source>zqpalette: cannot write %1</source>
+        <translation>zqpalette: %1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>All (%1)</source>
+        <translation>Alle (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Select Colour...</source>
+        <translation>Farbe wählen...</translation>
+    </message>
+    <message>
+        <source>Select Colour</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Edit annotation scales</source>
+        <translation>Beschriftungsmaßstäbe bearbeiten</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Recent Files</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Deselect</source>
+        <translation>Auswahl &amp;aufheben</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Extents</source>
+        <translation>&amp;Zoom Grenzen</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Layout%1</source>
+        <translation>Layout%1</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>Saved %1.</source>
+        <translation>%1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>Undone.</source>
+        <translation>Rückgängig gemacht.</translation>
+    </message>
+    <message>
+        <source>Redone.</source>
+        <translation>Wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>... and %1 more objects.</source>
+        <translation>... und %1 weitere Objekte.</translation>
+    </message>
+    <message>
+        <source>(no drawing)</source>
+        <translation>(keine Zeichnung)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2</source>
+        <translation>%1 kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The drawing %1 has unsaved changes. Save them?</source>
+        <translation>Die Zeichnung %1 hat ungespeicherte Änderungen. Speichern?</translation>
+    </message>
+    <message>
+        <source>Open Drawing</source>
+        <translation>Zeichnung öffnen</translation>
+    </message>
+    <message>
+        <source>DXF drawings (*.dxf);;All files (*)</source>
+        <translation>DXF-Zeichnungen (*.dxf);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save Drawing As</source>
+        <translation>Zeichnung speichern unter</translation>
+    </message>
+    <message>
+        <source>DXF drawings (*.dxf)</source>
+        <translation>DXF-Zeichnungen (*.dxf)</translation>
     </message>
 </context>
 <context>

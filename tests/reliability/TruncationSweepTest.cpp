@@ -92,7 +92,9 @@ void check(Watchdog& dog, const QByteArray& bytes, const std::string& what, bool
     // the cut line itself), not somewhere before.
     const qsizetype limit = binary ? bytes.size() : bytes.count('\n') + 2;
     EXPECT_LE(place, limit) << what << ": " << error.toStdString();
-    if (cutShort && !binary) EXPECT_GE(place, bytes.count('\n') + 1) << what << ": " << error.toStdString();
+    if (cutShort && !binary) {
+      EXPECT_GE(place, bytes.count('\n') + 1) << what << ": " << error.toStdString();
+    }
     // (A damaged sentinel makes the file read as ASCII.)
     EXPECT_EQ(error.startsWith(QStringLiteral("byte offset")), binary && bytes.startsWith("AutoCAD Binary DXF"))
         << what << ": " << error.toStdString();
