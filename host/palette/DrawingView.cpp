@@ -2,6 +2,8 @@
 #include "DbCircle.h"
 #include "DbArc.h"
 #include "DbDimension.h"
+#include "DbBlockReference.h"
+#include "DbHatch.h"
 #include "DbLine.h"
 #include "DbMText.h"
 #include "DbPlainClasses.h"
@@ -162,6 +164,9 @@ void ZqDrawingGeometry::addText(Item& item, const Text& text) {
 
 void ZqDrawingGeometry::extract(OdDbDatabase* db, const OdDbEntity* e, Item& item, int depth) {
   std::vector<QPointF> pts;
+  // A point of the entity as it is placed (through the block references
+  // it is drawn by).
+  auto xy = [this](const OdGePoint3d& p) { return ::xy(m_place * p); };
   if (auto* line = odrxCast<OdDbLine>(e)) {
     addPoly(item, {xy(line->startPoint()), xy(line->endPoint())}, false);
   } else if (auto* pl = odrxCast<OdDbPolyline>(e)) {
@@ -212,6 +217,72 @@ void ZqDrawingGeometry::extract(OdDbDatabase* db, const OdDbEntity* e, Item& ite
         OdDbObjectPtr sub = id.openObject();
         if (auto* se = odrxCast<OdDbEntity>(sub.get())) extract(db, se, item, depth + 1);
       }
+  } else if (auto* ref = odrxCast<OdDbBlockReference>(e)) {
+    // A block reference draws its block's entities where it places them.
+    OdDbObjectPtr block = ref->blockTableRecord().openObject();
+    if (auto* btr = odrxCast<OdDbBlockTableRecord>(block.get()); btr && depth < kMaxBlockDepth) {
+      const OdGeMatrix3d outer = m_place;
+      m_place = outer * ref->blockTransform();
+      for (const OdDbObjectId& id : btr->entityIds()) {
+        OdDbObjectPtr sub = id.openObject();
+        if (auto* se = odrxCast<OdDbEntity>(sub.get())) extract(db, se, item, depth + 1);
+      }
+      for (const OdDbObjectId& id : ref->attributeIds()) {
+        OdDbObjectPtr sub = id.openObject();
+        m_place = outer;  // attributes are placed in the drawing already
+        if (auto* se = odrxCast<OdDbEntity>(sub.get())) extract(db, se, item, depth + 1);
+      }
+      m_place = outer;
+    }
+  } else if (auto* hatch = odrxCast<OdDbHatch>(e)) {
+    // A hatch as the outlines of its loops, in its plane at its elevation.
+    const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(hatch->normal());
+    auto at = [&](double x, double y) { return xy(toWorld * OdGePoint3d(x, y, hatch->elevation())); };
+    for (int l = 0; l < hatch->numLoops(); ++l) {
+      const OdDbHatch::Loop& loop = hatch->loopAt(l);
+      pts.clear();
+      if (loop.type & OdDbHatch::kPolyline) {
+        const int n = int(loop.vertices.length());
+        for (int v = 0; v < n; ++v) {
+          const OdGePoint2d& a = loop.vertices[v];
+          if (pts.empty()) pts.push_back(at(a.x, a.y));
+          if (!loop.closed && v == n - 1) break;
+          const OdGePoint2d& b = loop.vertices[(v + 1) % n];
+          const double bulge = v < int(loop.bulges.length()) ? loop.bulges[v] : 0.0;
+          if (std::fabs(bulge) > 1e-12) {
+            std::vector<QPointF> arc{QPointF(a.x, a.y)};
+            bulgeArc(QPointF(a.x, a.y), QPointF(b.x, b.y), bulge, arc);
+            for (size_t k = 1; k < arc.size(); ++k) pts.push_back(at(arc[k].x(), arc[k].y()));
+          } else {
+            pts.push_back(at(b.x, b.y));
+          }
+        }
+      } else {
+        for (const OdDbHatch::Edge& edge : loop.edges) {
+          if (edge.type == OdDbHatch::kLine) {
+            pts.push_back(at(edge.start.x, edge.start.y));
+            pts.push_back(at(edge.end.x, edge.end.y));
+          } else if (edge.type == OdDbHatch::kCirArc || edge.type == OdDbHatch::kEllArc) {
+            double s = edge.startAngle, t = edge.endAngle;
+            while (t < s) t += 2 * kPi;
+            const OdGeVector2d major = edge.type == OdDbHatch::kCirArc ? OdGeVector2d(edge.radius, 0) : edge.majorAxis;
+            const OdGeVector2d minor = OdGeVector2d(-major.y, major.x) * (edge.type == OdDbHatch::kCirArc ? 1.0 : edge.ratio);
+            const int n = std::clamp(int(std::ceil((t - s) / (kPi / 32))), 2, 128);
+            for (int k = 0; k <= n; ++k) {
+              // A clockwise arc retraces the counter-clockwise one mirrored.
+              const double a = edge.ccw ? s + (t - s) * k / n : -(s + (t - s) * k / n);
+              const OdGePoint2d p = edge.center + major * std::cos(a) + minor * std::sin(a);
+              pts.push_back(at(p.x, p.y));
+            }
+          } else {
+            // Splines by their fit points, or else their control polygon.
+            const OdArray<OdGePoint2d>& through = edge.fitPoints.isEmpty() ? edge.controlPoints : edge.fitPoints;
+            for (const OdGePoint2d& p : through) pts.push_back(at(p.x, p.y));
+          }
+        }
+      }
+      if (pts.size() > 1) addPoly(item, pts, loop.closed);
+    }
   } else if (auto* point = odrxCast<OdDbPoint>(e)) {
     addPoly(item, {xy(point->position()), xy(point->position())}, false);
   } else if (auto* face = odrxCast<OdDbFace>(e)) {

@@ -6,6 +6,7 @@
 // extents), a grid index over them for culling and picking, pan, zoom,
 // click and window selection.
 #include "DbDatabase.h"
+#include "OdGeMatrix3d.h"
 #include <QHash>
 #include <QRectF>
 #include <QWidget>
@@ -65,6 +66,9 @@ class ZqDrawingGeometry {
   double distanceTo(const Item& item, const QPointF& at) const;
 
   OdDbDatabase* m_db = nullptr;
+  // Where the entities being extracted are placed: the product of the
+  // block references they are drawn through (identity for the space's own).
+  OdGeMatrix3d m_place;
   std::vector<Item> m_items;
   std::vector<QPointF> m_points;
   std::vector<Poly> m_polys;

@@ -7,7 +7,9 @@
 #include "PaletteWidget.h"
 #include "PaletteWindow.h"
 #include "Listing.h"
+#include "DbBlockReference.h"
 #include "DbCircle.h"
+#include "DbHatch.h"
 #include "DbLine.h"
 #include "DbPolyline.h"
 #include <QApplication>
@@ -268,6 +270,63 @@ TEST_F(PaletteTest, OutlinesOfClosedPolylinesEncloseTheirArea) {
     }
   }
   EXPECT_GT(arcs, 0) << "no closed polyline with an arc was drawn";
+}
+
+// Block references draw their block's lines where they place them, and
+// hatches the outlines of their loops: one outline per line or loop, over
+// the box the placed points span (computed here from the objects' data).
+TEST_F(PaletteTest, BlockReferencesAndHatchesDrawTheirGeometry) {
+  int references = 0, hatches = 0;
+  for (const char* name : {"libredwg__test__test-data__2000__entities-2d.dxf", "libredwg__test__test-data__2013__gh109_1.dxf"}) {
+    open(QString(ZQ_SAMPLES_DIR) + "/" + name);
+    const ZqDrawingGeometry& g = window->view()->geometry();
+    for (const ZqDrawingGeometry::Item& it : g.items()) {
+      OdDbObjectPtr obj = it.id.openObject();
+      double x0 = 1e300, y0 = 1e300, x1 = -1e300, y1 = -1e300;
+      quint32 outlines = 0;
+      auto take = [&](const OdGePoint3d& p) {
+        x0 = std::min(x0, p.x), y0 = std::min(y0, p.y), x1 = std::max(x1, p.x), y1 = std::max(y1, p.y);
+      };
+      if (auto ref = OdDbBlockReference::cast(obj.get())) {
+        OdDbObjectPtr block = ref->blockTableRecord().openObject();
+        auto btr = OdDbBlockTableRecord::cast(block.get());
+        if (!btr || btr->entityIds().isEmpty() || !ref->attributeIds().isEmpty()) continue;
+        bool linesOnly = true;
+        for (const OdDbObjectId& id : btr->entityIds()) {
+          auto line = OdDbLine::cast(id.openObject().get());
+          if (!line) {
+            linesOnly = false;
+            break;
+          }
+          take(ref->blockTransform() * line->startPoint());
+          take(ref->blockTransform() * line->endPoint());
+          ++outlines;
+        }
+        if (!linesOnly) continue;
+        ++references;
+      } else if (auto hatch = OdDbHatch::cast(obj.get())) {
+        for (int l = 0; l < hatch->numLoops(); ++l) {
+          const OdDbHatch::Loop& loop = hatch->loopAt(l);
+          if (!(loop.type & OdDbHatch::kPolyline)) continue;
+          for (const OdGePoint2d& v : loop.vertices) take(OdGePoint3d(v.x, v.y, 0));
+          ++outlines;
+        }
+        if (outlines != quint32(hatch->numLoops()) || hatch->normal() != OdGeVector3d::kZAxis) continue;
+        ++hatches;
+      } else {
+        continue;
+      }
+      const std::string where = std::string(name) + " " + it.id.getHandle().ascii().qstring().toStdString();
+      EXPECT_FALSE(it.boxOnly) << where;
+      EXPECT_EQ(it.polyCount, outlines) << where;
+      EXPECT_NEAR(it.box.left(), x0, 1e-6) << where;
+      EXPECT_NEAR(it.box.right(), x1, 1e-6) << where;
+      EXPECT_NEAR(it.box.top(), y0, 1e-6) << where;
+      EXPECT_NEAR(it.box.bottom(), y1, 1e-6) << where;
+    }
+  }
+  EXPECT_GE(references, 2);
+  EXPECT_GE(hatches, 1);
 }
 
 // For each object of a drawing alone, the palette shows the rows zqprops
