@@ -38,6 +38,7 @@ class Fonts {
   ~Fonts() {
     m_fonts.clear();
     if (m_library) FT_Done_FreeType(m_library);
+    if (m_config) FcConfigDestroy(m_config);
   }
 
   QMutex mutex;
@@ -99,7 +100,7 @@ class Fonts {
     if (m_byName.isEmpty()) {
       FcPattern* pattern = FcPatternCreate();
       FcObjectSet* set = FcObjectSetBuild(FC_FILE, nullptr);
-      if (FcFontSet* list = FcFontList(nullptr, pattern, set)) {
+      if (FcFontSet* list = FcFontList(config(), pattern, set)) {
         for (int i = 0; i < list->nfont; ++i) {
           FcChar8* file = nullptr;
           if (FcPatternGetString(list->fonts[i], FC_FILE, 0, &file) == FcResultMatch) {
@@ -118,14 +119,14 @@ class Fonts {
 
   // The system's font for a family; with `exact`, only a font of that
   // family (fontconfig answers every question with some font).
-  static QString byFamily(const QString& family, bool exact) {
+  QString byFamily(const QString& family, bool exact) {
     QString result;
     FcPattern* pattern = FcNameParse(reinterpret_cast<const FcChar8*>(family.toUtf8().constData()));
     if (!pattern) return result;
-    FcConfigSubstitute(nullptr, pattern, FcMatchPattern);
+    FcConfigSubstitute(config(), pattern, FcMatchPattern);
     FcDefaultSubstitute(pattern);
     FcResult r;
-    if (FcPattern* match = FcFontMatch(nullptr, pattern, &r)) {
+    if (FcPattern* match = FcFontMatch(config(), pattern, &r)) {
       FcChar8* file = nullptr;
       FcChar8* matched = nullptr;
       const bool sameFamily = FcPatternGetString(match, FC_FAMILY, 0, &matched) == FcResultMatch &&
@@ -138,7 +139,15 @@ class Fonts {
     return result;
   }
 
+  // A fontconfig configuration of our own, released with us (the library's
+  // shared one lives until the process ends).
+  FcConfig* config() {
+    if (!m_config) m_config = FcInitLoadConfigAndFonts();
+    return m_config;
+  }
+
   FT_Library m_library = nullptr;
+  FcConfig* m_config = nullptr;
   QHash<QString, QString> m_files, m_byName;
   std::map<QString, std::unique_ptr<Font>> m_fonts;
 };
