@@ -1,4 +1,5 @@
 #include "Leader.h"
+#include "ZqAnnotativeRows.h"
 #include "Dimension.h"
 #include "ZqInfoFrame.h"
 #include "ZqVertexRows.h"
@@ -59,23 +60,13 @@ int refuseValue(dv::Id id) {
 
 bool isScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription&) { return ZqDim::isAnnotative(object); }
 
-CZqVariant getAnnotative(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
-  if (!object || !object->isReadEnabled()) return CZqVariant();
-  return ZqEnumeration(kZqYesNo, ZqDim::isAnnotative(object) ? 0 : 1);
-}
-
-bool isAnnotationScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription& description) {
-  if (description.GetNameKey().qstring() != QLatin1String("Annotative Scale")) return false;
-  return !ZqDim::isAnnotative(object);
-}
-
 void addDynamicRows(const OdDbObject* object, CZqPropertiesContainer* container, std::span<const StyleRow> styleRows,
                     const ZqRow& annotationScale, const QString& scaleDescription) {
   for (const StyleRow& r : styleRows)
     if (CZqPropertyDescription* d = container->GetByName(CZqString(r.name), CZqString(r.category)))
       d->SetType(CZqCustomPropertyType(kZqUntyped, CZqString(r.guid)));
   static const ZqRow annotative = {ZQ_MISC, QT_TRANSLATE_NOOP("property_types", "Annotative"), kZqUntyped, nullptr,
-                                   kZqReadOnly, getAnnotative, nullptr, "Misc_annotative"};
+                                   kZqReadOnly, ZqGetAnnotative, nullptr, "Misc_annotative"};
   container->AddDynamic(ZqBuildDynamicDescription(annotative));
   if (!ZqDim::isAnnotative(object)) return;
   CZqCustomPropertyDescription* scale = ZqBuildDynamicDescription(annotationScale);
@@ -271,7 +262,7 @@ const ZqRow kRows[] = {
   {QT_TRANSLATE_NOOP("property_groups", "Text"),   PT("Text offset"),        kZqUntyped,    nullptr,                 kZqEditable,                getV<dv::k_dimgap>,        setV<dv::k_dimgap>,        "Text_Offset"},
   {ZQ_MATCHPROP,                                   "MATCHPROP_Leader",       kZqUntyped,    nullptr,                 kZqEditable,                ZqGetOwnId,                setMatch,                  "",                           kVisMatchProp},
 };
-const ZqRow kScaleRow = {ZQ_MISC, PT("Annotative Scale"), kZqUntyped, ZqGuid::kLineEditToolButtonGUID, ZqStyled::isAnnotationScaleReadOnly,
+const ZqRow kScaleRow = {ZQ_MISC, PT("Annotative Scale"), kZqUntyped, ZqGuid::kLineEditToolButtonGUID, ZqIsAnnotationScaleReadOnly,
                          getV<dv::k_dimscale>, nullptr, "Misc_annotative_scale", kVisKeep, kZqAny, "Misc"};
 // clang-format on
 

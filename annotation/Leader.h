@@ -80,9 +80,6 @@ int setStyle(const OdDbObject* object, const CZqPropertyDescription&, const CZqV
 // Read-only while the object is annotative (its scale follows the
 // annotation scale then).
 bool isScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription&);
-CZqVariant getAnnotative(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&);
-// "Annotative Scale": read-only unless the object is annotative.
-bool isAnnotationScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription& description);
 
 // The dynamic part shared by leaders and tolerance frames: the style rows
 // (found by their untranslated category and name) get their editors, then

@@ -1,4 +1,5 @@
 #include "MLeader.h"
+#include "ZqAnnotativeRows.h"
 #include <map>
 #include "Dimension.h"
 #include "Leader.h"
@@ -385,7 +386,7 @@ void dynamicRows(const OdDbObject* object, CZqPropertiesContainer* container) {
     style->SetType(CZqCustomPropertyType(kZqUntyped, CZqString(ZqGuid::kMLeaderStyleGUID)));
   addContentRows(container, kAlways);
   static const ZqRow annotative = {ZQ_MISC, PT("Annotative"), kZqUntyped, nullptr, kZqReadOnly,
-                                   ZqStyled::getAnnotative, nullptr, "Misc_annotative"};
+                                   ZqGetAnnotative, nullptr, "Misc_annotative"};
   container->AddDynamic(ZqBuildDynamicDescription(annotative));
   if (ZqDim::isAnnotative(object)) {
     static const ContentRow scale[] = {{ZQ_MISC, PT("Annotative Scale"), kZqUntyped, ZqGuid::kLineEditToolButtonGUID,

@@ -1,4 +1,5 @@
 #include "Tolerance.h"
+#include "ZqAnnotativeRows.h"
 #include "Dimension.h"
 #include "Leader.h"
 #include "ZqInfoFrame.h"
@@ -52,7 +53,7 @@ const ZqRow kRows[] = {
   {QT_TRANSLATE_NOOP("property_groups", "Lines && Arrows"), PT("DimLine LColor"), kZqColor, nullptr,                 kZqEditable,                getV<dv::k_dimclrd>,     setV<dv::k_dimclrd>,     "Lines_Arrows_DimLineColor"},
   {ZQ_MATCHPROP,                                      "MATCHPROP_Fcf",        kZqUntyped, nullptr,                   kZqEditable,                ZqGetOwnId,              setMatch,                "",                          kVisMatchProp},
 };
-const ZqRow kScaleRow = {ZQ_MISC, PT("Annotative Scale"), kZqUntyped, ZqGuid::kLineEditToolButtonGUID, ZqStyled::isAnnotationScaleReadOnly,
+const ZqRow kScaleRow = {ZQ_MISC, PT("Annotative Scale"), kZqUntyped, ZqGuid::kLineEditToolButtonGUID, ZqIsAnnotationScaleReadOnly,
                          getV<dv::k_dimscale>, nullptr, "Misc_annotative_scale", kVisKeep, kZqAny, "Misc"};
 // clang-format on
 

@@ -18,25 +18,7 @@
 
 namespace {
 
-struct Drawing {
-  Drawing() {
-    odDbInitialize();
-    GetZqSystemServices()->SetEchoToStderr(false);
-    odrxDynamicLinker()->loadModule("ZQProperties");
-    QString error;
-    db = OdDxf::readDrawing(zqBigDrawing(), error);
-    if (!db) qFatal("the generated drawing does not load: %s", qPrintable(error));
-    OdDbObjectPtr ms = db->getModelSpaceId().openObject();
-    ids = static_cast<OdDbBlockTableRecord*>(ms.get())->entityIds();
-  }
-  OdDbDatabasePtr db;
-  OdDbObjectIdArray ids;
-};
-
-Drawing& drawing() {
-  static Drawing d;
-  return d;
-}
+ZqLoadedDrawing& drawing() { return zqLoadedBigDrawing(); }
 
 void perObject(benchmark::State& state, size_t objects) {
   state.counters["objects/s"] =
@@ -44,7 +26,7 @@ void perObject(benchmark::State& state, size_t objects) {
 }
 
 void BM_PaletteRows(benchmark::State& state) {
-  Drawing& d = drawing();
+  ZqLoadedDrawing& d = drawing();
   for (auto _ : state) {
     CZqPropertiesWindowService service(d.db.get());
     size_t rows = 0;
@@ -58,7 +40,7 @@ void BM_PaletteRows(benchmark::State& state) {
 }
 
 void listJson(benchmark::State& state, const ZqJsonContent& content) {
-  Drawing& d = drawing();
+  ZqLoadedDrawing& d = drawing();
   qint64 bytes = 0;
   for (auto _ : state) {
     QBuffer json;

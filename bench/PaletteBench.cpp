@@ -22,35 +22,24 @@
 
 namespace {
 
-struct PaletteDrawing {
-  PaletteDrawing() {
+// The big drawing, in a process with a (offscreen) application for the widgets.
+ZqLoadedDrawing& drawing() {
+  static const bool app = [] {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     static int argc = 1;
     static char name[] = "zq_bench";
     static char* argv[] = {name, nullptr};
     if (!qApp) new QApplication(argc, argv);
-    odDbInitialize();
-    GetZqSystemServices()->SetEchoToStderr(false);
-    odrxDynamicLinker()->loadModule("ZQProperties");
-    QString error;
-    db = OdDxf::readDrawing(zqBigDrawing(), error);
-    if (!db) qFatal("the generated drawing does not load: %s", qPrintable(error));
-    OdDbObjectPtr ms = db->getModelSpaceId().openObject();
-    ids = static_cast<OdDbBlockTableRecord*>(ms.get())->entityIds();
-  }
-  OdDbDatabasePtr db;
-  OdDbObjectIdArray ids;
-};
-
-PaletteDrawing& drawing() {
-  static PaletteDrawing d;
-  return d;
+    return true;
+  }();
+  (void)app;
+  return zqLoadedBigDrawing();
 }
 
 // Every object selected, grouped by class, and every row of the palette
 // read (what an open palette shows): the figure to keep under 300 ms.
 void BM_PaletteSelectAll(benchmark::State& state) {
-  PaletteDrawing& d = drawing();
+  ZqLoadedDrawing& d = drawing();
   ZqPaletteModel model;
   model.setDatabase(d.db.get());
   for (auto _ : state) {
@@ -64,7 +53,7 @@ BENCHMARK(BM_PaletteSelectAll)->Unit(benchmark::kMillisecond);
 // The same through the kernel's service, which reads every row of every
 // object: what the palette would cost without rows per class.
 void BM_ServiceRowsAll(benchmark::State& state) {
-  PaletteDrawing& d = drawing();
+  ZqLoadedDrawing& d = drawing();
   CZqPropertiesWindowService service(d.db.get());
   for (auto _ : state) {
     service.SetSelection(d.ids);
@@ -74,7 +63,7 @@ void BM_ServiceRowsAll(benchmark::State& state) {
 BENCHMARK(BM_ServiceRowsAll)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 void BM_DrawingBuild(benchmark::State& state) {
-  PaletteDrawing& d = drawing();
+  ZqLoadedDrawing& d = drawing();
   for (auto _ : state) {
     ZqDrawingGeometry g;
     g.build(d.db.get(), d.db->getModelSpaceId());
@@ -86,7 +75,7 @@ BENCHMARK(BM_DrawingBuild)->Unit(benchmark::kMillisecond);
 // One frame of the view: the whole drawing (arg 0) or a tenth of its width
 // (arg 1), where the grid leaves most objects out.
 void BM_DrawingPaint(benchmark::State& state) {
-  PaletteDrawing& d = drawing();
+  ZqLoadedDrawing& d = drawing();
   ZqDrawingView view;
   view.resize(1280, 800);
   view.setBlock(d.db.get(), d.db->getModelSpaceId());
@@ -103,7 +92,7 @@ void BM_DrawingPaint(benchmark::State& state) {
 BENCHMARK(BM_DrawingPaint)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 void BM_DrawingPick(benchmark::State& state) {
-  PaletteDrawing& d = drawing();
+  ZqLoadedDrawing& d = drawing();
   ZqDrawingGeometry g;
   g.build(d.db.get(), d.db->getModelSpaceId());
   const QRectF e = g.extents();
