@@ -171,22 +171,17 @@ void Reader::readPlotStyleNames() {
   }
   const Section* objects = m_d.file.section("OBJECTS");
   if (!objects || objects->records.isEmpty()) return;
-  auto entries = [](const Record& dict, auto&& each) {
-    for (int i = 1; i + 1 < dict.size(); ++i)
-      if (dict.at(i).code() == 3 && (dict.at(i + 1).code() == 350 || dict.at(i + 1).code() == 360))
-        each(dict.str(i), dict.at(i + 1).handle());
-  };
   const Record& root = objects->records.first();
   if (!root.isType("DICTIONARY")) return;
   quint64 plotStyles = 0;
-  entries(root, [&](const QString& name, quint64 h) {
+  forEachDictionaryEntry(root, [&](const QString& name, quint64 h) {
     if (name == QLatin1String("ACAD_PLOTSTYLENAME")) plotStyles = h;
   });
   if (!plotStyles) return;
   OdArray<OdString> names;
   for (const Record& r : objects->records)
     if (r.handle() == plotStyles && (r.isType("ACDBDICTIONARYWDFLT") || r.isType("DICTIONARY"))) {
-      entries(r, [&](const QString& name, quint64 h) {
+      forEachDictionaryEntry(r, [&](const QString& name, quint64 h) {
         m_ctx.plotStyleNames.insert(h, name);
         m_ctx.plotStyleHandles.insert(name.toCaseFolded(), h);
         names.append(OdString(name));
@@ -210,16 +205,10 @@ void Reader::readAnnotationScales() {
   byHandle.reserve(objects->records.size());
   for (const Record& r : objects->records)
     if (const quint64 h = r.handle()) byHandle.insert(h, &r);
-  // The entries (name, handle) of a dictionary record.
-  auto entries = [](const Record& dict, auto&& each) {
-    for (int i = 1; i + 1 < dict.size(); ++i)
-      if (dict.at(i).code() == 3 && (dict.at(i + 1).code() == 350 || dict.at(i + 1).code() == 360))
-        each(dict.str(i), dict.at(i + 1).handle());
-  };
   auto entry = [&](const Record* dict, QLatin1String name) -> const Record* {
     const Record* found = nullptr;
     if (dict)
-      entries(*dict, [&](const QString& n, quint64 h) {
+      forEachDictionaryEntry(*dict, [&](const QString& n, quint64 h) {
         if (!found && n.compare(name, Qt::CaseInsensitive) == 0) found = byHandle.value(h);
       });
     return found;
@@ -240,7 +229,7 @@ void Reader::readAnnotationScales() {
   if (!root.isType("DICTIONARY")) return;
   QHash<quint64, OdString> scaleNames;
   if (const Record* list = entry(&root, QLatin1String("ACAD_SCALELIST"))) {
-    entries(*list, [&](const QString&, quint64 h) {
+    forEachDictionaryEntry(*list, [&](const QString&, quint64 h) {
       const Record* scale = byHandle.value(h);
       if (!scale || !scale->isType("SCALE")) return;
       OdDbAnnotationScale s;
@@ -265,7 +254,7 @@ void Reader::readAnnotationScales() {
     }
     if (!owner) continue;
     QList<OdString> names;
-    entries(*scales, [&](const QString&, quint64 h) {
+    forEachDictionaryEntry(*scales, [&](const QString&, quint64 h) {
       const Record* context = byHandle.value(h);
       const int i = context ? context->find(340, 1) : -1;
       if (i >= 0) {

@@ -299,9 +299,7 @@ std::vector<M::Style> stylesOf(const Context& ctx) {
   const quint64 h = entryOf(objects->records.first(), "ACAD_MLEADERSTYLE");
   for (const Record& r : objects->records)
     if (h && r.handle() == h) {
-      for (int i = 1; i + 1 < r.size(); ++i)
-        if (r.at(i).code() == 3 && (r.at(i + 1).code() == 350 || r.at(i + 1).code() == 360))
-          out.push_back({OdString(r.str(i)), OdDbHandle(r.at(i + 1).handle())});
+      forEachDictionaryEntry(r, [&](const QString& name, quint64 handle) { out.push_back({OdString(name), OdDbHandle(handle)}); });
       break;
     }
   return out;

@@ -65,6 +65,15 @@ class OdDbViewport;
 
 namespace OdDxf::mapping {
 
+// Calls each(name, handle) for every entry of a DICTIONARY record (a 3
+// name followed by its 350 or 360 handle), in the record's order.
+template <class Each>
+void forEachDictionaryEntry(const Record& dict, Each&& each) {
+  for (int i = 1; i + 1 < dict.size(); ++i)
+    if (dict.at(i).code() == 3 && (dict.at(i + 1).code() == 350 || dict.at(i + 1).code() == 360))
+      each(dict.str(i), dict.at(i + 1).handle());
+}
+
 // Thrown by reading code for a malformed value; readDrawing turns it into
 // its refusal.
 struct MapError {
