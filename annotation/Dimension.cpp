@@ -548,11 +548,6 @@ bool isTolerancePrecisionReadOnly(const OdDbObject* object, const CZqPropertyDes
   return dim && toleranceDisplayOf(dim) == 0;
 }
 
-}  // namespace
-
-bool ZqDim::isAnnotative(const OdDbObject* object) { return ZqIsAnnotative(object); }
-
-namespace {
 
 bool isScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription&) { return ZqIsAnnotative(object); }
 

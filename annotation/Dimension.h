@@ -92,6 +92,4 @@ CZqVariant getAltFormat(const OdDbObject* object, const CZqPropertyDescription&,
 CZqVariant getFraction(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&);
 CZqVariant getTolerancePrecision(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&);
 int setChoice(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&);
-// Whether the object (of any class) carries the annotative flag.
-bool isAnnotative(const OdDbObject* object);
 }  // namespace ZqDim

@@ -58,7 +58,7 @@ int refuseValue(dv::Id id) {
   return ZqRefuseWith(QCoreApplication::translate("errors", "%1 cannot take this value").arg(dv::info(id).upperName().qstring()));
 }
 
-bool isScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription&) { return ZqDim::isAnnotative(object); }
+bool isScaleReadOnly(const OdDbObject* object, const CZqPropertyDescription&) { return ZqIsAnnotative(object); }
 
 void addDynamicRows(const OdDbObject* object, CZqPropertiesContainer* container, std::span<const StyleRow> styleRows,
                     const ZqRow& annotationScale, const QString& scaleDescription) {
@@ -68,7 +68,7 @@ void addDynamicRows(const OdDbObject* object, CZqPropertiesContainer* container,
   static const ZqRow annotative = {ZQ_MISC, QT_TRANSLATE_NOOP("property_types", "Annotative"), kZqUntyped, nullptr,
                                    kZqReadOnly, ZqGetAnnotative, nullptr, "Misc_annotative"};
   container->AddDynamic(ZqBuildDynamicDescription(annotative));
-  if (!ZqDim::isAnnotative(object)) return;
+  if (!ZqIsAnnotative(object)) return;
   CZqCustomPropertyDescription* scale = ZqBuildDynamicDescription(annotationScale);
   scale->SetVisibility(scale->GetVisibility() ^ 8);
   scale->SetDescription(CZqString(scaleDescription));

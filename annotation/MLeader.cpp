@@ -301,7 +301,7 @@ bool isContentReadOnly(const OdDbObject* object, const CZqPropertyDescription& d
   if (name == QLatin1String("Landing distance"))
     return m->leaderLineType() == M::kInVisibleLeader || !m->landingEnabled() || !m->doglegEnabled();
   if (name == QLatin1String("Horizontal landing")) return m->leaderLineType() == M::kInVisibleLeader;
-  if (name == QLatin1String("Annotative Scale")) return !ZqDim::isAnnotative(object);
+  if (name == QLatin1String("Annotative Scale")) return !ZqIsAnnotative(object);
   return !c->set;
 }
 
@@ -388,7 +388,7 @@ void dynamicRows(const OdDbObject* object, CZqPropertiesContainer* container) {
   static const ZqRow annotative = {ZQ_MISC, PT("Annotative"), kZqUntyped, nullptr, kZqReadOnly,
                                    ZqGetAnnotative, nullptr, "Misc_annotative"};
   container->AddDynamic(ZqBuildDynamicDescription(annotative));
-  if (ZqDim::isAnnotative(object)) {
+  if (ZqIsAnnotative(object)) {
     static const ContentRow scale[] = {{ZQ_MISC, PT("Annotative Scale"), kZqUntyped, ZqGuid::kLineEditToolButtonGUID,
                                         "Misc_annotative_scale", "Misc"}};
     addContentRows(container, scale);
