@@ -9,6 +9,12 @@
 #   scripts/fuzz.sh 10                 # every target for 10 s
 #   TARGETS="dxf_ascii" scripts/fuzz.sh 600
 #   FUZZ_RUNS=1000 scripts/fuzz.sh     # a fixed number of inputs instead
+#   FUZZ_RUNS="dxf_ascii=8000 units=200000" scripts/fuzz.sh   # per target
+#
+# FUZZ_SEED=N fixes libFuzzer's random seed (and Qt's hash seed); with
+# FUZZ_FRESH=1 a run starts from the committed corpus only, not from what
+# earlier runs added. Together with FUZZ_RUNS they make a run that explores
+# the same inputs wherever it runs: CI's smoke run is one.
 set -uo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
@@ -33,18 +39,38 @@ if [ -d "$samples" ]; then
         "$build_dir"/seeds/dxf_ascii/*.dxf samples/demo.dxf 2>/dev/null
   fi
 fi
+# The number of inputs for target $1 from FUZZ_RUNS ("N" or "target=N ...").
+runs_for() {
+  for kv in ${FUZZ_RUNS:-}; do
+    case $kv in
+      "$1="*) echo "${kv#*=}"; return ;;
+      *=*) ;;
+      *) echo "$kv"; return ;;
+    esac
+  done
+}
+seed=()
+if [ -n "${FUZZ_SEED:-}" ]; then
+  seed=(-seed="$FUZZ_SEED")
+  export QT_HASH_SEED=0
+fi
 failed=()
 for t in $targets; do
   work="$build_dir/corpus/$t"
+  if [ -n "${FUZZ_FRESH:-}" ]; then
+    work="$build_dir/corpus-fresh/$t"
+    rm -rf "$work"
+  fi
   mkdir -p "$work" "fuzz/corpus/$t"
   limit=(-max_total_time="$seconds")
-  [ -n "${FUZZ_RUNS:-}" ] && limit=(-runs="$FUZZ_RUNS")
+  runs=$(runs_for "$t")
+  [ -n "$runs" ] && limit=(-runs="$runs")
   dict=()
   [ -f "fuzz/dict/$t.dict" ] && dict=(-dict="fuzz/dict/$t.dict")
   echo "== fuzz_$t =="
   ZQ_MODULE_PATH="$build_dir/lib" ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1} \
   UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1} \
-    "$build_dir/bin/fuzz_$t" "${limit[@]}" "${dict[@]}" -timeout=20 -rss_limit_mb=2560 -max_len=65536 \
+    "$build_dir/bin/fuzz_$t" "${limit[@]}" "${seed[@]}" "${dict[@]}" -timeout=20 -rss_limit_mb=2560 -max_len=65536 \
       -print_final_stats=1 -artifact_prefix="$build_dir/artifacts/$t-" "$work" "fuzz/corpus/$t" $(ls -d "$build_dir/seeds/$t" 2>/dev/null) \
       2> "$build_dir/fuzz_$t.log"
   status=$?

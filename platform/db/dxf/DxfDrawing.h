@@ -162,7 +162,7 @@ inline OdDbStub* stubOf(const OdDbObjectId& id) { return id.stub(); }
 void readFields(RecordIO& io, OdDbObject* obj);
 void writeFields(RecordIO& io, OdDbObject* obj, const OdDbObject* before);
 
-inline QString typeName(const Record& r) { return QString::fromLatin1(r.type().toByteArray()); }
+inline QString typeName(const Record& r) { return printable(r.type()); }
 
 // Reads the parsed file of `d` into the (empty) database. Throws MapError
 // for a drawing that cannot be read.

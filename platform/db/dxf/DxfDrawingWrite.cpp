@@ -42,6 +42,7 @@ class Writer {
   void collectNew();
   void registerApps();
   void collectRenames();
+  void addMissingTables();
   bool needsWalk(int s) const;
   void walk(int s);
   void patch(Record& r, OdDbStub* stub, QList<Record>* sequence);
@@ -422,6 +423,67 @@ void Writer::walk(int s) {
 }
 
 
+// A drawing written without a table that now has new records in it (an
+// edit that adds extended data to a drawing without APPID table, say) gets
+// the empty table, in the usual order of tables, and a TABLES section after
+// HEADER and CLASSES when it has none. Readers take either as they come.
+void Writer::addMissingTables() {
+  static const char* const kOrder[] = {"VPORT", "LTYPE", "LAYER", "STYLE", "VIEW", "UCS", "APPID", "DIMSTYLE", "BLOCK_RECORD"};
+  auto rank = [](QByteArrayView name) {
+    for (int i = 0; i < int(std::size(kOrder)); ++i)
+      if (name == kOrder[i]) return i;
+    return int(std::size(kOrder));
+  };
+  QList<Section>& sections = m_d.file.sections();
+  for (int k = 0; k < kTableCount; ++k) {
+    // Without BLOCK_RECORD (before R13) a block is its BLOCK record alone.
+    if (m_new.records[k].empty() || (k == 0 && !m_ctx.markers)) continue;
+    OdDbStub* const table = tableId(m_db, k).stub();
+    if (!table || m_kept.bound.count(table)) continue;
+    int s = -1;
+    for (int i = 0; i < sections.size(); ++i)
+      if (sections[i].name == "TABLES") s = i;
+    if (s < 0) {
+      int at = 0;
+      for (int i = 0; i < sections.size(); ++i)
+        if (sections[i].name == "HEADER" || sections[i].name == "CLASSES") at = i + 1;
+      m_d.file.addSection("TABLES");
+      sections.move(sections.size() - 1, at);
+      m_d.owners.insert(m_d.owners.begin() + at, std::vector<OdDbStub*>());
+      s = at;
+    }
+    Record begin = m_d.file.newRecord("TABLE");
+    begin.setRaw(begin.append(2), kTables[k].name);
+    if (m_ctx.handles) {
+      quint64 h = table->handle.value();
+      if (!h) h = newHandle();
+      begin.setHandle(begin.append(5), h);
+      noteHandle(h);
+      if (m_ctx.markers) begin.setHandle(begin.append(330), 0);
+    }
+    if (m_ctx.markers) begin.setRaw(begin.append(100), "AcDbSymbolTable");
+    begin.setInteger(begin.append(70), 0);
+    if (m_ctx.markers && k == 4) {
+      begin.setRaw(begin.append(100), "AcDbDimStyleTable");
+      begin.setInteger(begin.append(71), 0);
+    }
+    Section& sec = sections[s];
+    std::vector<OdDbStub*>& owners = m_d.owners[size_t(s)];
+    int at = int(sec.records.size());
+    for (int i = 0; i < sec.records.size(); ++i)
+      if (sec.records[i].isType("TABLE") && sec.records[i].size() > 1 && sec.records[i].at(1).code() == 2 &&
+          rank(sec.records[i].at(1).trimmed()) > rank(kTables[k].name)) {
+        at = i;
+        break;
+      }
+    sec.records.insert(at, m_d.file.newRecord("ENDTAB"));
+    sec.records.insert(at, begin);
+    owners.insert(owners.begin() + at, {table, nullptr});
+    m_added.push_back(table);
+    m_madeReal.push_back(table);
+  }
+}
+
 // Whether a section has anything to bring up to date.
 bool Writer::needsWalk(int s) const {
   const Section& sec = m_d.file.sections()[s];
@@ -441,6 +503,7 @@ void Writer::run() {
   registerApps();
   collectRenames();
   patchHeader(m_ctx);
+  addMissingTables();
   QList<Section>& sections = m_d.file.sections();
   for (int s = 0; s < sections.size(); ++s)
     if (sections[s].name == "ENTITIES") m_lastEntities = s;

@@ -51,8 +51,7 @@ QString Context::where(const Record& r, int index) const {
     return QStringLiteral("line %1").arg(line);
   }
   const quint64 h = r.handle();
-  return h ? QStringLiteral("%1 %2").arg(QString::fromLatin1(r.type().toByteArray())).arg(h, 0, 16).toUpper()
-           : QString::fromLatin1(r.type().toByteArray());
+  return h ? QStringLiteral("%1 %2").arg(printable(r.type()), QString::number(h, 16).toUpper()) : printable(r.type());
 }
 
 void Context::warn(const QString& message) {
@@ -131,7 +130,7 @@ void RecordIO::insertAt(int index, int code) {
 
 void RecordIO::refuse(int index, const QString& what) const {
   const quint64 h = m_rec.handle();
-  QString who = QString::fromLatin1(m_rec.type().toByteArray());
+  QString who = printable(m_rec.type());
   if (h) who += QStringLiteral(" (handle %1)").arg(QString::number(h, 16).toUpper());
   throw MapError{QStringLiteral("%1: %2: %3").arg(where(index), who, what)};
 }
@@ -139,7 +138,7 @@ void RecordIO::refuse(int index, const QString& what) const {
 void RecordIO::warn(int index, const QString& what) const {
   if (m_ctx.quiet || !m_ctx.warnings) return;
   const quint64 h = m_rec.handle();
-  QString who = QString::fromLatin1(m_rec.type().toByteArray());
+  QString who = printable(m_rec.type());
   if (h) who += QStringLiteral(" (handle %1)").arg(QString::number(h, 16).toUpper());
   m_ctx.warn(QStringLiteral("%1: %2: %3").arg(where(index), who, what));
 }

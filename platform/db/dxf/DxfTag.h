@@ -48,6 +48,24 @@ enum class ValueType : quint8 {
 
 constexpr int kMaxGroupCode = 1071;
 DB_API ValueType valueType(int code);
+
+// A record type as messages show it: control characters spelled out (\r,
+// \t, \x01) so that a damaged file's message stays one readable line that
+// starts with the place it names.
+inline QString printable(QByteArrayView text) {
+  QString out;
+  out.reserve(text.size());
+  for (const char c : text) {
+    const auto u = static_cast<unsigned char>(c);
+    if (c == '\r') out += QLatin1String("\\r");
+    else if (c == '\n') out += QLatin1String("\\n");
+    else if (c == '\t') out += QLatin1String("\\t");
+    else if (u < 0x20 || u == 0x7f) out += QStringLiteral("\\x%1").arg(u, 2, 16, QLatin1Char('0'));
+    else out += QChar(u);  // Latin-1, as record types are read
+  }
+  return out;
+}
+
 inline bool isValidGroupCode(int code) { return code >= 0 && code <= kMaxGroupCode; }
 
 // Code pages are named by their Windows number; 65001 is UTF-8.

@@ -472,6 +472,77 @@ TEST(DxfDatabaseEdit, NewObjectsGetRecordsAndFreshHandles) {
   });
 }
 
+// Extended data added to a drawing that has no APPID table, or no TABLES
+// section at all, needs its application registered: the writer adds the
+// table (and the section) rather than refusing the save.
+struct MissingTable {
+  const char* name;
+  QByteArray drawing;
+};
+
+void PrintTo(const MissingTable& m, std::ostream* os) { *os << m.name; }
+
+class DxfMissingTable : public ::testing::TestWithParam<MissingTable> {};
+
+TEST_P(DxfMissingTable, ExtendedDataGetsItsApplicationRegistered) {
+  odDbInitialize();
+  OdDbDatabasePtr db = load(GetParam().drawing);
+  ASSERT_TRUE(db);
+  const OdDbObjectIdArray ids = entitiesOf(db->getModelSpaceId());
+  ASSERT_EQ(ids.size(), 1u);
+  {
+    OdDbObjectPtr o = ids[0].openObject(OdDb::kForWrite);
+    OdResBufPtr rb = OdResBuf::newRb(OdResBuf::kDxfRegAppName, OdString("ZQTEST"));
+    rb->setNext(OdResBuf::newRb(OdResBuf::kDxfXdAsciiString, OdString("kept")).get());
+    o->setXData(rb.get());
+  }
+  QString error;
+  const QByteArray out = OdDxf::writeDrawing(db.get(), &error);
+  ASSERT_TRUE(error.isEmpty()) << error.toStdString();
+  EXPECT_TRUE(out.contains("ZQTEST"));
+
+  OdDbDatabasePtr again = load(out);
+  ASSERT_TRUE(again);
+  OdDbObjectPtr table = again->getRegAppTableId().openObject();
+  EXPECT_TRUE(static_cast<OdDbSymbolTable*>(table.get())->has(OdString("ZQTEST")));
+  const OdDbObjectIdArray after = entitiesOf(again->getModelSpaceId());
+  ASSERT_EQ(after.size(), 1u);
+  OdResBufPtr x = after[0].openObject()->xData(OdString("ZQTEST"));
+  ASSERT_TRUE(x && x->next());
+  EXPECT_EQ(x->next()->getString().qstring(), QStringLiteral("kept"));
+  // The table is the drawing's own now: a second save adds nothing more.
+  EXPECT_EQ(save(db.get()), out);
+  EXPECT_EQ(save(again.get()), out);
+
+  if (!haveEzdxf() || !out.contains("AC1015")) return;
+  expectEzdxfReads(out, {{QStringLiteral("[doc.appids.has_entry('ZQTEST'), "
+                                         "[t.value for t in list(doc.modelspace())[0].get_xdata('ZQTEST')]]"),
+                          QJsonArray{true, QJsonArray{QStringLiteral("kept")}}}});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Drawings, DxfMissingTable,
+    ::testing::Values(
+        MissingTable{"R2000WithoutAppidTable",
+                     "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  9\n$HANDSEED\n  5\n40\n  0\nENDSEC\n"
+                     "  0\nSECTION\n  2\nTABLES\n"
+                     "  0\nTABLE\n  2\nLAYER\n  5\n2\n330\n0\n100\nAcDbSymbolTable\n 70\n1\n"
+                     "  0\nLAYER\n  5\n10\n330\n2\n100\nAcDbSymbolTableRecord\n100\nAcDbLayerTableRecord\n"
+                     "  2\n0\n 70\n0\n 62\n7\n  6\nCONTINUOUS\n  0\nENDTAB\n"
+                     "  0\nTABLE\n  2\nDIMSTYLE\n  5\nA\n330\n0\n100\nAcDbSymbolTable\n 70\n0\n"
+                     "100\nAcDbDimStyleTable\n 71\n0\n  0\nENDTAB\n"
+                     "  0\nENDSEC\n"
+                     "  0\nSECTION\n  2\nENTITIES\n"
+                     "  0\nLINE\n  5\n20\n100\nAcDbEntity\n  8\n0\n100\nAcDbLine\n"
+                     " 10\n0\n 20\n0\n 30\n0\n 11\n1\n 21\n1\n 31\n0\n"
+                     "  0\nENDSEC\n  0\nEOF\n"},
+        MissingTable{"R12WithoutTablesSection",
+                     "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1009\n  0\nENDSEC\n"
+                     "  0\nSECTION\n  2\nENTITIES\n"
+                     "  0\nLINE\n  8\n0\n 10\n0\n 20\n0\n 30\n0\n 11\n1\n 21\n1\n 31\n0\n"
+                     "  0\nENDSEC\n  0\nEOF\n"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
 TEST(DxfDatabaseEdit, ErasedObjectsLoseTheirRecords) {
   odDbInitialize();
   const QByteArray bytes = readBytes(samplePath(kEntities2d));

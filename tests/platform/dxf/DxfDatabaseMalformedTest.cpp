@@ -42,6 +42,10 @@ TEST(DxfDatabaseMalformed, RefusedWithWhereAndWhat) {
   };
   QByteArray badNumber = kLine;
   badNumber.replace(" 20\n2.0\n", " 20\n2.0x\n");
+  // A damaged record type: its control characters are spelled out, so the
+  // message still starts with its line.
+  QByteArray damagedType = badNumber;
+  damagedType.replace("  0\nLINE\n", "  0\n\rLI\x01NE\n");
   QByteArray badHandle = kLine;
   badHandle.replace("  5\n2A\n", "  5\nQ7\n");
   const QByteArray polyline = "  0\nPOLYLINE\n  5\n30\n100\nAcDbEntity\n  8\n0\n100\nAcDb2dPolyline\n 66\n1\n 10\n0.0\n"
@@ -56,6 +60,7 @@ TEST(DxfDatabaseMalformed, RefusedWithWhereAndWhat) {
       {"empty", "", "", "empty file"},
       {"truncated", drawing(kLine).left(drawing(kLine).indexOf("3.0") + 1), "", "truncated"},
       {"number", drawing(badNumber), "2.0x", "group code 20 value '2.0x' is not a number"},
+      {"damaged record type", drawing(damagedType), "2.0x", "\\rLI\\x01NE (handle 2A): group code 20 value '2.0x'"},
       {"handle", drawing(badHandle), "Q7", "handle 'Q7' of LINE is not hexadecimal"},
       {"no SEQEND", drawing(polyline + kLine), "\nLINE\n", "POLYLINE (handle 30) is not closed by SEQEND"},
       {"attributes without SEQEND", drawing(insert + kLine), "\nLINE\n", "INSERT (handle 40) has attributes not closed by SEQEND"},
