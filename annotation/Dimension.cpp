@@ -569,13 +569,20 @@ Inspection inspectionOf(const D* dim) {
   }
   return in;
 }
-void storeInspection(D* dim, const Inspection& in) {
+// Files before R12 have no extended data to keep it in: refused there.
+int storeInspection(D* dim, const Inspection& in) {
+  constexpr int kExtendedDataRelease = 1009;  // R12
+  if (const int refused = ZqRefuseBeforeRelease(
+          dim, kExtendedDataRelease,
+          QT_TRANSLATE_NOOP("errors", "Inspection data needs a drawing saved as %1 or later; this drawing is %2.")))
+    return refused;
   OdResBufPtr head = OdResBuf::newRb(OdResBuf::kDxfRegAppName, kInspectApp);
   OdResBuf* tail = head.get();
   tail = tail->setNext(OdResBuf::newRb(OdResBuf::kDxfXdInteger16, int64_t(in.flags)).get());
   tail = tail->setNext(OdResBuf::newRb(OdResBuf::kDxfXdAsciiString, OdString(in.label)).get());
   tail->setNext(OdResBuf::newRb(OdResBuf::kDxfXdAsciiString, OdString(in.rate)).get());
   dim->setXData(head.get());
+  return kZqSetApplied;
 }
 constexpr int kInspectionOn = 8;
 const ZqChoice kInspectionShape[] = {
@@ -609,8 +616,9 @@ int setInspection(const OdDbObject* object, const CZqPropertyDescription&, const
   if (!dim || !ZqChosenTag(value, tag)) return kZqSetRefused;
   Inspection in = inspectionOf(dim);
   const int flags = tag == 1 ? in.flags | kInspectionOn : in.flags & ~kInspectionOn;
-  if (flags != in.flags) storeInspection(dim, (in.flags = flags, in));
-  return kZqSetApplied;
+  if (flags == in.flags) return kZqSetApplied;
+  in.flags = flags;
+  return storeInspection(dim, in);
 }
 CZqVariant getInspectionShape(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
   const D* dim = ZqReadable<D>(object);
@@ -624,8 +632,9 @@ int setInspectionShape(const OdDbObject* object, const CZqPropertyDescription&, 
   if (!dim || !ZqChosenTag(value, tag) || tag < 0 || tag > 2) return kZqSetRefused;
   Inspection in = inspectionOf(dim);
   const int flags = (in.flags & ~7) | tag;
-  if (flags != in.flags) storeInspection(dim, (in.flags = flags, in));
-  return kZqSetApplied;
+  if (flags == in.flags) return kZqSetApplied;
+  in.flags = flags;
+  return storeInspection(dim, in);
 }
 template <QString Inspection::*Field>
 CZqVariant getInspectionText(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
@@ -640,8 +649,7 @@ int setInspectionText(const OdDbObject* object, const CZqPropertyDescription&, c
   const QString s = value.GetString().qstring();
   if (s == in.*Field) return kZqSetApplied;
   in.*Field = s;
-  storeInspection(dim, in);
-  return kZqSetApplied;
+  return storeInspection(dim, in);
 }
 
 // Property matching: the dimension's style and every override.

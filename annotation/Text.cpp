@@ -378,12 +378,8 @@ namespace {
 // The source's style as the target's drawing has it: the same record in one
 // drawing, the record of the same name in another (none when it lacks one).
 OdDbObjectId styleForTarget(const OdDbObjectId& style, const OdDbObject* target) {
-  if (style.isNull() || style.database() == target->database()) return style;
-  const OdDbObjectPtr record = style.isErased() ? OdDbObjectPtr() : style.openObject(OdDb::kForRead);
-  const OdDbTextStyleTableRecord* named = OdDbTextStyleTableRecord::cast(record.get()).get();
-  if (!named || !target->database()) return OdDbObjectId();
-  auto table = OdDbSymbolTable::cast(target->database()->getTextStyleTableId().openObject(OdDb::kForRead).get());
-  return table ? table->getAt(named->getName()) : OdDbObjectId();
+  if (style.isNull() || !target->database()) return OdDbObjectId();
+  return CZqUtils::CopyStyles(style, target->database()->getTextStyleTableId());
 }
 
 }  // namespace

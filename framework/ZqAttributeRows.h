@@ -61,11 +61,10 @@ int setLock(const OdDbObject* object, const CZqPropertyDescription&, const CZqVa
   int32_t tag = 0;
   if (!a || !ZqChosenTag(value, tag)) return kZqSetRefused;
   if (tag != 0 && tag != 1) return kZqSetApplied;
-  const int release = OdDb::databaseRelease(a->database());
-  if (tag == 1 && !a->lockPositionInBlock() && release != 0 && release < kLockRelease)
-    return ZqRefuseWith(QCoreApplication::translate(
-        "errors", "Locking the position of an attribute needs a drawing saved as %1 or later; this drawing is %2.")
-                            .arg(OdDb::releaseName(kLockRelease), OdDb::releaseName(release)));
+  if (tag == 1 && !a->lockPositionInBlock())
+    if (const int refused = ZqRefuseBeforeRelease(
+            a, kLockRelease, QT_TRANSLATE_NOOP("errors", "Locking the position of an attribute needs a drawing saved as %1 or later; this drawing is %2.")))
+      return refused;
   a->setLockPositionInBlock(tag == 1);
   return kZqSetApplied;
 }

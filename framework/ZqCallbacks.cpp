@@ -1,4 +1,5 @@
 #include "ZqCallbacks.h"
+#include "DbRelease.h"
 #include "DbSymbolTable.h"
 
 int ZqRefuse(const char* message) { return ZqRefuseWith(QCoreApplication::translate("errors", message)); }
@@ -6,6 +7,12 @@ int ZqRefuse(const char* message) { return ZqRefuseWith(QCoreApplication::transl
 int ZqRefuseWith(const QString& translatedMessage) {
   GetZqSystemServices()->MessageBox(translatedMessage, QCoreApplication::translate("errors", "Error"));
   return kZqSetRefused;
+}
+
+int ZqRefuseBeforeRelease(const OdDbObject* object, int needed, const char* message) {
+  const int release = OdDb::databaseRelease(object ? object->database() : nullptr);
+  if (release == 0 || release >= needed) return 0;
+  return ZqRefuseWith(QCoreApplication::translate("errors", message).arg(OdDb::releaseName(needed), OdDb::releaseName(release)));
 }
 
 int ZqTakeDouble(const CZqPropertyDescription& description, const CZqVariant& value, double& v) {

@@ -32,6 +32,11 @@ T* ZqWritable(const OdDbObject* object) {
 // "Error") and returns the refusal code.
 int ZqRefuse(const char* message);
 int ZqRefuseWith(const QString& translatedMessage);
+// For values a drawing can hold only from release `needed` on: refuses with
+// `message` (context "errors", "... needs a drawing saved as %1 or later;
+// this drawing is %2.") when the object's drawing is saved in an older
+// release, and answers 0 when the value can be kept.
+int ZqRefuseBeforeRelease(const OdDbObject* object, int needed, const char* message);
 
 // Reads the double a setter of description takes: the value must be a
 // double (otherwise refused without a message) and within the limit of the

@@ -1,4 +1,5 @@
 #include "ZqServices.h"
+#include "DbSymbolTable.h"
 #include <cstdio>
 
 int CZqSystemServices::MessageBox(const CZqString& text, const CZqString& title, unsigned) {
@@ -25,6 +26,25 @@ CZqVELOXQTGate* g_gate = &g_defaultGate;
 
 bool CZqUtils::IsNotTelvaneStandard() { return !g_standardEdition; }
 void CZqUtils::SetStandardEdition(bool standard) { g_standardEdition = standard; }
+
+OdDbObjectId CZqUtils::CopyStyles(const OdDbObjectId& style, const OdDbObjectId& styleTable) {
+  if (style.isNull() || style.isErased() || styleTable.isNull()) return OdDbObjectId();
+  if (style.database() == styleTable.database()) return style;
+  const OdDbObjectPtr record = style.openObject(OdDb::kForRead);
+  const auto* source = odrxCast<OdDbTextStyleTableRecord>(record.get());
+  if (!source) return OdDbObjectId();
+  const OdDbObjectPtr tableObject = styleTable.openObject(OdDb::kForWrite);
+  auto* table = odrxCast<OdDbTextStyleTable>(tableObject.get());
+  if (!table) return OdDbObjectId();
+  const OdDbObjectId existing = table->getAt(source->getName());
+  if (!existing.isNull()) return existing;
+  OdDbTextStyleTableRecordPtr copy = OdDbTextStyleTableRecord::createObject();
+  copy->copyFrom(source);
+  copy->setName(source->getName());
+  // The typeface of a TrueType style is kept in the style's extended data.
+  if (OdResBufPtr typeface = source->xData(OdString("ACAD"))) copy->setXData(typeface.get());
+  return table->add(copy.get());
+}
 
 CZqVELOXQTGate* GetZqVELOXQTGate() { return g_gate; }
 

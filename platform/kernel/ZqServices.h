@@ -45,6 +45,12 @@ class ZQKERNEL_API CZqUtils {
   // True for every edition above the standard one.
   static bool IsNotTelvaneStandard();
   static void SetStandardEdition(bool standard);
+  // Brings a text style into the drawing of `styleTable` (a text style
+  // table): the style of the same name there when it has one, otherwise a
+  // copy of the record (fonts, sizes, flags, typeface data) added to it once.
+  // Answers the style to use there; null when `style` is not a text style or
+  // the table cannot take it. A style of the same drawing is answered as it is.
+  static OdDbObjectId CopyStyles(const OdDbObjectId& style, const OdDbObjectId& styleTable);
 };
 
 // The current selection of the active document, as the palette sees it.

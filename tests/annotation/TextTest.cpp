@@ -418,6 +418,70 @@ TEST_F(TextTest, MatchingCopiesStyleRotationObliqueHeightAndWidth) {
   EXPECT_EQ(open(target)->height(), 7.0);
 }
 
+// A source in another drawing: its style is brought into the target's drawing
+// once, fonts and flags and typeface with it; a style of the same name there
+// is used as it is.
+TEST_F(TextTest, MatchingFromAnotherDrawingCopiesTheStyleOnce) {
+  OdDbDatabasePtr other = OdDbDatabase::createObject();
+  OdDbTextStyleTableRecordPtr s = OdDbTextStyleTableRecord::createObject();
+  s->setName(OdString("Imported"));
+  s->setFileName(OdString("DejaVuSans.ttf"));
+  s->setXScale(0.8);
+  s->setObliquingAngle(0.25);
+  s->setTextGenerationFlags(2);
+  OdResBufPtr typeface = OdResBuf::newRb(OdResBuf::kDxfRegAppName, OdString("ACAD"));
+  typeface->setNext(OdResBuf::newRb(OdResBuf::kDxfXdAsciiString, OdString("DejaVu Sans")).get());
+  s->setXData(typeface.get());
+  OdDbObjectId sourceStyle;
+  {
+    OdDbObjectPtr table = other->getTextStyleTableId().openObject(OdDb::kForWrite);
+    sourceStyle = static_cast<OdDbSymbolTable*>(table.get())->add(s.get());
+  }
+  OdDbTextPtr from = OdDbText::createObject();
+  from->setTextString(OdString("from"));
+  from->setTextStyle(sourceStyle);
+  from->setHeight(4);
+  OdDbObjectId source;
+  {
+    OdDbObjectPtr ms = other->getModelSpaceId().openObject(OdDb::kForWrite);
+    source = static_cast<OdDbBlockTableRecord*>(ms.get())->appendOdDbEntity(from.get());
+  }
+  auto styleCount = [&] {
+    OdDbObjectPtr table = db->getTextStyleTableId().openObject();
+    return static_cast<OdDbSymbolTable*>(table.get())->recordIds().size();
+  };
+  const size_t before = styleCount();
+  const OdDbObjectId first = addText("one"), second = addText("two");
+  EXPECT_EQ(set(first, "MATCHPROP", "MATCHPROP_Text", CZqVariant(source)), 5100);
+  EXPECT_EQ(set(second, "MATCHPROP", "MATCHPROP_Text", CZqVariant(source)), 5100);
+  EXPECT_EQ(styleCount(), before + 1);
+  const OdDbObjectId copied = open(first)->textStyle();
+  ASSERT_FALSE(copied.isNull());
+  EXPECT_EQ(copied.database(), db.get());
+  EXPECT_EQ(open(second)->textStyle(), copied);
+  EXPECT_EQ(open(first)->height(), 4.0);
+  const OdDbTextStyleTableRecordPtr style = openAs<OdDbTextStyleTableRecord>(copied);
+  EXPECT_EQ(style->getName().qstring(), "Imported");
+  EXPECT_EQ(style->fileName().qstring(), "DejaVuSans.ttf");
+  EXPECT_EQ(style->xScale(), 0.8);
+  EXPECT_EQ(style->obliquingAngle(), 0.25);
+  EXPECT_EQ(style->textGenerationFlags(), 2);
+  OdResBufPtr x = style->xData(OdString("ACAD"));
+  ASSERT_TRUE(x && x->next());
+  EXPECT_EQ(x->next()->getString().qstring(), "DejaVu Sans");
+  // The source drawing is left as it was.
+  EXPECT_EQ(sourceStyle.database(), other.get());
+
+  // The copy is written as a style record of the target drawing.
+  QString error;
+  const QByteArray saved = OdDxf::writeDrawing(db.get(), &error);
+  ASSERT_TRUE(error.isEmpty()) << error.toStdString();
+  OdDbDatabasePtr again = OdDxf::readDrawing(saved, error);
+  ASSERT_TRUE(again) << error.toStdString();
+  OdDbObjectPtr table = again->getTextStyleTableId().openObject();
+  EXPECT_TRUE(static_cast<OdDbSymbolTable*>(table.get())->has(OdString("Imported")));
+}
+
 // --- Information -----------------------------------------------------------------------------
 
 TEST_F(TextTest, InformationListsStyleFontPointHeightTextAndAngles) {

@@ -16,6 +16,7 @@ struct Found {
   const char* row;
   const char* value;
   const char* refusal;
+  const char* handle = nullptr;  // the object edited; the first of model space when null
 };
 
 void PrintTo(const Found& f, std::ostream* os) { *os << f.name; }
@@ -36,7 +37,10 @@ TEST_P(FoundProblems, RefusedWhenMadeAndTheDrawingStillSaves) {
   ASSERT_FALSE(all.isEmpty());
 
   CZqPropertiesWindowService service(db.get());
-  service.SetSelection({all.front()});
+  OdDbObjectId target = all.front();
+  if (GetParam().handle) target = db->getOdDbObjectId(OdDbHandle(QByteArray(GetParam().handle).toULongLong(nullptr, 16)));
+  ASSERT_FALSE(target.isNull());
+  service.SetSelection({target});
   const std::vector<CZqPaletteRow> rows = service.Rows();
   const CZqPaletteRow* row = service.FindRow(rows, QLatin1String(GetParam().row));
   ASSERT_TRUE(row);
@@ -59,7 +63,10 @@ INSTANTIATE_TEST_SUITE_P(
         // A hyperlink is kept as extended data, which files before R12 cannot
         // hold: it was accepted, and the save then failed.
         Found{"HyperlinkBeforeR12", "libredwg__test__test-data__r2.6__dim.dxf", "Hyperlink", "http://example.com",
-              "A hyperlink needs a drawing saved as R12 or later; this drawing is AC1003."}),
+              "A hyperlink needs a drawing saved as R12 or later; this drawing is AC1003."},
+        // The inspection data of a dimension is extended data too.
+        Found{"DimensionInspectionBeforeR12", "libredwg__test__test-data__r2.6__dim.dxf", "Inspection rate", "5",
+              "Inspection data needs a drawing saved as R12 or later; this drawing is AC1003.", "43"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
