@@ -245,6 +245,15 @@ CZqVariant getVar(const OdDbObject* object, const CZqPropertyDescription& descri
 template CZqVariant getVar<false>(const OdDbObject*, const CZqPropertyDescription&, const CZqVariant&);
 template CZqVariant getVar<true>(const OdDbObject*, const CZqPropertyDescription&, const CZqVariant&);
 
+// Overrides are kept in the dimension's extended data, which files before
+// R12 cannot hold: refused there.
+int refuseOverrides(const D* dim) {
+  constexpr int kExtendedDataRelease = 1009;  // R12
+  return ZqRefuseBeforeRelease(
+      dim, kExtendedDataRelease,
+      QT_TRANSLATE_NOOP("errors", "Dimension overrides need a drawing saved as %1 or later; this drawing is %2."));
+}
+
 // Applies a variable's new value as an override; a value the variable
 // does not take is refused with a sentence, the dimension unchanged.
 int applyVar(D* dim, dv::Id id, const dv::Value& v) {
@@ -252,6 +261,7 @@ int applyVar(D* dim, dv::Id id, const dv::Value& v) {
   if (!dv::check(id, v, &why))
     return ZqRefuseWith(QCoreApplication::translate("errors", "%1 cannot take this value").arg(dv::info(id).upperName().qstring()));
   if (dim->dimVar(id) == v) return kZqSetApplied;
+  if (const int refused = refuseOverrides(dim)) return refused;
   dim->setDimVar(id, v);
   return kZqSetApplied;
 }
@@ -657,15 +667,23 @@ int matchDimension(const OdDbEntity* source, OdDbObject* target) {
   const D* from = odrxCast<D>(source);
   D* to = odrxCast<D>(target);
   if (!from || !to || !to->isWriteEnabled()) return kZqSetRefused;
+  const OdDbObjectId style = to->dimensionStyle();
   if (from->database() == to->database()) to->setDimensionStyle(from->dimensionStyle());
   OdDbDimStyleTableRecordPtr scratch = OdDbDimStyleTableRecord::createObject();
   from->getDimstyleData(scratch.get());
+  std::vector<dv::Id> differing;
   for (int k = 0; k < dv::kCount; ++k) {
     const dv::Id id = dv::Id(k);
     // Records of another drawing mean nothing here.
     if (dv::info(id).isReference() && from->database() != to->database()) continue;
-    if (dv::info(id).code && !(to->dimVar(id) == scratch->dimVar(id))) to->setDimVar(id, scratch->dimVar(id));
+    if (dv::info(id).code && !(to->dimVar(id) == scratch->dimVar(id))) differing.push_back(id);
   }
+  if (!differing.empty())
+    if (const int refused = refuseOverrides(to)) {
+      if (!(to->dimensionStyle() == style)) to->setDimensionStyle(style);
+      return refused;
+    }
+  for (const dv::Id id : differing) to->setDimVar(id, scratch->dimVar(id));
   return kZqSetApplied;
 }
 int setMatch(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&) {

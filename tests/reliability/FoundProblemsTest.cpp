@@ -66,7 +66,10 @@ INSTANTIATE_TEST_SUITE_P(
               "A hyperlink needs a drawing saved as R12 or later; this drawing is AC1003."},
         // The inspection data of a dimension is extended data too.
         Found{"DimensionInspectionBeforeR12", "libredwg__test__test-data__r2.6__dim.dxf", "Inspection rate", "5",
-              "Inspection data needs a drawing saved as R12 or later; this drawing is AC1003.", "43"}),
+              "Inspection data needs a drawing saved as R12 or later; this drawing is AC1003.", "43"},
+        // So are its overrides of its style's variables.
+        Found{"DimensionOverrideBeforeR12", "libredwg__test__test-data__r2.6__dim.dxf", "Arrow size", "0.5",
+              "Dimension overrides need a drawing saved as R12 or later; this drawing is AC1003.", "43"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
