@@ -342,16 +342,37 @@ const ZqRow kEditScalesRow = {ZQ_TEXT, QT_TRANSLATE_NOOP("property_types", "Edit
 // The shared "Height" row is "Model text height" (read-only: the sheet
 // height is what a user edits) while the text is annotative, and "Height"
 // again for any other text.
+// The two looks of the shared height row, made once per language.
+struct HeightLook {
+  CZqString name, key, dark, light;
+};
+const HeightLook& heightLook(bool annotative) {
+  static HeightLook looks[2];
+  static unsigned generation = 0;
+  if (generation != zqTranslationGeneration()) {
+    generation = zqTranslationGeneration();
+    for (const bool a : {false, true}) {
+      const char* name = a ? QT_TRANSLATE_NOOP("property_types", "Model text height") : "Height";
+      const QString stem = a ? QStringLiteral("Text_model_text_height") : QStringLiteral("Text_Height");
+      looks[a] = HeightLook{QCoreApplication::translate("property_types", name), CZqString(name),
+                            ZqDarkIconPath(stem, QStringLiteral("Text")), ZqLightIconPath(stem, QStringLiteral("Text"))};
+    }
+  }
+  return looks[annotative];
+}
+
 void nameHeightRow(CZqPropertiesContainer* container, bool annotative) {
-  CZqPropertyDescription* height = container->GetByName(CZqString("Height"), CZqString(ZQ_TEXT));
-  if (!height) height = container->GetByName(CZqString("Model text height"), CZqString(ZQ_TEXT));
+  static const CZqString text(ZQ_TEXT);
+  const HeightLook& look = heightLook(annotative);
+  CZqPropertyDescription* height = container->GetByName(heightLook(false).key, text);
+  if (!height) height = container->GetByName(heightLook(true).key, text);
   if (!height) return;
-  const char* name = annotative ? QT_TRANSLATE_NOOP("property_types", "Model text height") : "Height";
-  const QString stem = annotative ? QStringLiteral("Text_model_text_height") : QStringLiteral("Text_Height");
-  height->SetName(CZqString(QCoreApplication::translate("property_types", name)));
-  height->SetKeys(CZqString(ZQ_TEXT), CZqString(name));
-  height->SetDarkIcon(CZqString(ZqDarkIconPath(stem, QStringLiteral("Text"))));
-  height->SetLightIcon(CZqString(ZqLightIconPath(stem, QStringLiteral("Text"))));
+  // Most texts of a drawing follow one another with the row as it is.
+  if (height->GetNameKey().qstring() == look.key.qstring() && height->GetName().qstring() == look.name.qstring()) return;
+  height->SetName(look.name);
+  height->SetKeys(text, look.key);
+  height->SetDarkIcon(look.dark);
+  height->SetLightIcon(look.light);
   height->PutIsReadOnlyMethod(annotative ? kZqReadOnly : kZqEditable);
 }
 

@@ -1,6 +1,7 @@
 #include "ZqRows.h"
 #include "ZqServices.h"
 #include <cmath>
+#include <unordered_map>
 
 namespace {
 constexpr double kZeroTolerance = 1e-10;
@@ -83,19 +84,51 @@ QString lightIcon(const ZqRow& row) {
 CZqCustomPropertyType typeOf(const ZqRow& row) {
   return CZqCustomPropertyType(row.type, row.typeId ? CZqString(row.typeId) : CZqString());
 }
+// The texts of a row: its category and name as shown, its icons, its keys
+// and the sentence of its limit. Made once per row and language, since
+// dynamic rows are made again for every object a listing shows (rows are
+// static tables, so a row's address names it).
+struct RowTexts {
+  CZqString category, name, dark, light, categoryKey, nameKey, refusal;
+  // What they were made from: a row made on the stack may take the address
+  // of an earlier one.
+  const char *fromCategory = nullptr, *fromName = nullptr, *fromIcon = nullptr, *fromFolder = nullptr;
+  ZqLimit fromLimit;
+  bool madeFrom(const ZqRow& row) const {
+    return fromCategory == row.category && fromName == row.name && fromIcon == row.icon && fromFolder == row.iconFolder &&
+           fromLimit.kind == row.limit.kind && fromLimit.low == row.limit.low && fromLimit.high == row.limit.high &&
+           fromLimit.message == row.limit.message;
+  }
+};
+const RowTexts& textsOf(const ZqRow& row) {
+  static std::unordered_map<const ZqRow*, RowTexts> made;
+  static unsigned generation = 0;
+  if (generation != zqTranslationGeneration()) {
+    made.clear();
+    generation = zqTranslationGeneration();
+  }
+  RowTexts& texts = made[&row];
+  if (!texts.madeFrom(row)) {
+    const QString name = nameText(row);
+    texts = RowTexts{categoryText(row), name,  darkIcon(row), lightIcon(row), CZqString(row.category), CZqString(row.name),
+                     ZqLimitSentence(row.limit, name), row.category, row.name, row.icon, row.iconFolder, row.limit};
+  }
+  return texts;
+}
 // What the host's palette does not show: the untranslated keys the row is
 // found by, the sentence of its limit and the row itself for the setters.
-void attachRowData(CZqCustomPropertyDescription* d, const ZqRow& row) {
-  d->SetKeys(CZqString(row.category), CZqString(row.name));
-  d->SetRefusalText(ZqLimitSentence(row.limit, nameText(row)));
+void attachRowData(CZqCustomPropertyDescription* d, const ZqRow& row, const RowTexts& texts) {
+  d->SetKeys(texts.categoryKey, texts.nameKey);
+  d->SetRefusalText(texts.refusal);
   d->SetRowData(&row);
 }
 }  // namespace
 
 CZqCustomPropertyDescription* ZqBuildFixedDescription(const ZqRow& row, OdArray<CZqPropertyDescription*>& list) {
+  const RowTexts& texts = textsOf(row);
   auto* d = CZqCustomPropertyDescription::CreateStatic();
-  d->SetCategory(categoryText(row));
-  d->SetName(nameText(row));
+  d->SetCategory(texts.category);
+  d->SetName(texts.name);
   d->SetIsDynamic(false);
   if (!ZqIsMatchPropRow(row)) d->SetType(typeOf(row));
   d->SetDescription(CZqString());
@@ -103,9 +136,9 @@ CZqCustomPropertyDescription* ZqBuildFixedDescription(const ZqRow& row, OdArray<
   d->PutSetMethod(row.set);
   d->PutIsReadOnlyMethod(row.readOnly);
   d->SetIcon(CZqString());
-  d->SetDarkIcon(darkIcon(row));
-  d->SetLightIcon(lightIcon(row));
-  attachRowData(d, row);
+  d->SetDarkIcon(texts.dark);
+  d->SetLightIcon(texts.light);
+  attachRowData(d, row, texts);
   list.append(d);
   switch (row.vis.op) {
     case ZqVis::kKeep: break;
@@ -120,18 +153,19 @@ CZqCustomPropertyDescription* ZqBuildFixedDescription(const ZqRow& row, OdArray<
 }
 
 CZqCustomPropertyDescription* ZqBuildDynamicDescription(const ZqRow& row) {
+  const RowTexts& texts = textsOf(row);
   auto* d = new CZqCustomPropertyDescription();
-  d->SetName(nameText(row));
+  d->SetName(texts.name);
   d->SetType(typeOf(row));
   d->SetIcon(CZqString());
-  d->SetDarkIcon(darkIcon(row));
-  d->SetLightIcon(lightIcon(row));
-  d->SetCategory(categoryText(row));
+  d->SetDarkIcon(texts.dark);
+  d->SetLightIcon(texts.light);
+  d->SetCategory(texts.category);
   d->PutGetMethod(row.get);
   d->PutSetMethod(row.set);
   d->PutIsReadOnlyMethod(row.readOnly);
   d->SetIsDynamic(true);
-  attachRowData(d, row);
+  attachRowData(d, row, texts);
   return d;
 }
 

@@ -204,6 +204,12 @@ ZqJsonWriter& ZqJsonWriter::value(bool b) {
   return *this;
 }
 
+ZqJsonWriter& ZqJsonWriter::rawValue(std::string_view json) {
+  separate();
+  raw(json.data(), qsizetype(json.size()));
+  return *this;
+}
+
 ZqJsonWriter& ZqJsonWriter::null() {
   separate();
   raw("null", 4);

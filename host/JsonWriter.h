@@ -41,6 +41,9 @@ class ZqJsonWriter {
   // start of a member object up to and including the key of its next
   // member, as in `"k":{"a":1,"b":` (quoteTo writes its strings).
   ZqJsonWriter& objectHead(std::string_view json);
+  // A whole value given as its JSON text (an array made once and written
+  // for many objects): written as it is.
+  ZqJsonWriter& rawValue(std::string_view json);
   // Appends text as a quoted, escaped JSON string to out.
   static void quoteTo(std::string& out, const QString& text);
   static void quoteTo(std::string& out, const char* latin1);

@@ -1,6 +1,7 @@
 #include "Listing.h"
 #include "JsonWriter.h"
 #include "ZqSelection.h"
+#include <QBuffer>
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -164,14 +165,36 @@ void writeValue(ZqJsonWriter& w, const CZqVariant& v, bool untyped = false) {
   }
 }
 
-void writeChoices(ZqJsonWriter& w, const CZqVariantCollection& c) {
-  w.quotedKey(R"("choices")").beginArray();
-  for (int i = 0; i < c.GetCount(); ++i) {
-    w.beginObject().quotedKey(R"("text")").value(c.GetAt(i).GetValue().GetString().qstring()).quotedKey(R"("tag")");
-    writeValue(w, c.GetAt(i).GetTag());
-    w.endObject();
+// The choices of an enumeration value. Providers share one collection among
+// all the values that show the same list and choice, so its JSON text is
+// made once per collection; the cache holds the collections it has text
+// for, so an address it knows cannot be taken by another list meanwhile.
+void writeChoices(ZqJsonWriter& w, const CZqVariant& value) {
+  struct Made {
+    std::shared_ptr<const CZqVariantCollection> collection;
+    std::string json;
+  };
+  static std::unordered_map<const CZqVariantCollection*, Made> made;
+  const std::shared_ptr<const CZqVariantCollection> c = value.GetSharedCollection();
+  if (!c) return;
+  auto found = made.find(c.get());
+  if (found == made.end()) {
+    if (made.size() > 4096) made.clear();  // lists made per object: keep the cache small
+    QBuffer text;
+    text.open(QIODevice::WriteOnly);
+    {
+      ZqJsonWriter list(text);
+      list.beginArray();
+      for (int i = 0; i < c->GetCount(); ++i) {
+        list.beginObject().quotedKey(R"("text")").value(c->GetAt(i).GetValue().GetString().qstring()).quotedKey(R"("tag")");
+        writeValue(list, c->GetAt(i).GetTag());
+        list.endObject();
+      }
+      list.endArray();
+    }
+    found = made.emplace(c.get(), Made{c, text.data().toStdString()}).first;
   }
-  w.endArray();
+  w.quotedKey(R"("choices")").rawValue(found->second.json);
 }
 
 std::vector<CZqPaletteRow> rowsOf(OdDbDatabase* db, const OdDbObjectId& id, const ZqRowPicker& picker = {}) {
@@ -357,7 +380,7 @@ void zqWriteListingJson(QIODevice& out, const QString& drawing, OdDbDatabase* db
         writeValue(w, value, h->type == CZqVariant::kVtDouble || (h->type == 0 && readOnly));
         w.quotedKey(R"("text")").value(CZqPropertiesWindowService::FormatValue(db, value, d.GetType()).qstring());
         w.quotedKey(R"("readOnly")").value(readOnly);
-        if (value.GetType() == CZqVariant::kVtCollection) writeChoices(w, value.GetCollection());
+        if (value.GetType() == CZqVariant::kVtCollection) writeChoices(w, value);
         w.endObject();
       }
       w.endObject();

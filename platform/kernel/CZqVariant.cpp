@@ -6,6 +6,10 @@ CZqVariant::CZqVariant(int32_t value) : m_type(kVtInt32), m_value(value) {}
 CZqVariant::CZqVariant(const OdCmColor& value) : m_type(kVtColor), m_value(value) {}
 CZqVariant::CZqVariant(const CZqVariantCollection& value)
     : m_type(kVtCollection), m_value(std::make_shared<const CZqVariantCollection>(value)) {}
+CZqVariant::CZqVariant(std::shared_ptr<const CZqVariantCollection> value)
+    : m_type(value ? kVtCollection : kVtEmpty) {
+  if (value) m_value = std::move(value);
+}
 CZqVariant::CZqVariant(const CZqVariantCollectionElement& value)
     : m_type(kVtCollectionElement), m_value(std::make_shared<const CZqVariantCollectionElement>(value)) {}
 CZqVariant::CZqVariant(const OdDbObjectId& value) : m_type(kVtId), m_value(value) {}
@@ -28,6 +32,11 @@ int32_t CZqVariant::GetInt32() const {
 OdCmColor CZqVariant::GetColor() const {
   if (auto* c = std::get_if<OdCmColor>(&m_value)) return *c;
   return {};
+}
+
+std::shared_ptr<const CZqVariantCollection> CZqVariant::GetSharedCollection() const {
+  if (auto* c = std::get_if<std::shared_ptr<const CZqVariantCollection>>(&m_value)) return *c;
+  return nullptr;
 }
 
 const CZqVariantCollection& CZqVariant::GetCollection() const {

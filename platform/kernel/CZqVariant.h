@@ -37,6 +37,8 @@ class ZQKERNEL_API CZqVariant {
   explicit CZqVariant(int32_t value);
   explicit CZqVariant(const OdCmColor& value);
   explicit CZqVariant(const CZqVariantCollection& value);
+  // A collection shared with other values (an enumeration made once).
+  explicit CZqVariant(std::shared_ptr<const CZqVariantCollection> value);
   explicit CZqVariant(const CZqVariantCollectionElement& value);
   explicit CZqVariant(const OdDbObjectId& value);
 
@@ -52,6 +54,9 @@ class ZQKERNEL_API CZqVariant {
   int32_t GetInt32() const;
   OdCmColor GetColor() const;
   const CZqVariantCollection& GetCollection() const;
+  // The collection as it is shared (null when the value is no collection):
+  // holding it keeps its address, so a cache may key on it.
+  std::shared_ptr<const CZqVariantCollection> GetSharedCollection() const;
   const CZqVariantCollectionElement& GetCollectionElement() const;
   OdDbObjectId GetId() const;
 

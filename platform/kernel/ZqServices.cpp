@@ -1,5 +1,10 @@
 #include "ZqServices.h"
 #include "DbSymbolTable.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+
 #include <cstdio>
 
 int CZqSystemServices::MessageBox(const CZqString& text, const CZqString& title, unsigned) {
@@ -16,6 +21,38 @@ CZqSystemServices* GetZqSystemServices() {
 CZqResources* GetZqResources() {
   static CZqResources resources;
   return &resources;
+}
+
+namespace {
+
+// Counts the application's LanguageChange events, which installing or
+// removing a translator sends at once, and the applications themselves.
+class TranslationWatcher : public QObject {
+ public:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::LanguageChange && watched == m_app) ++m_generation;
+    return false;
+  }
+  unsigned generation() {
+    QCoreApplication* app = QCoreApplication::instance();
+    if (app != m_app) {
+      if (app) app->installEventFilter(this);
+      m_app = app;
+      ++m_generation;
+    }
+    return m_generation;
+  }
+
+ private:
+  QPointer<QCoreApplication> m_app;
+  unsigned m_generation = 1;
+};
+
+}  // namespace
+
+unsigned zqTranslationGeneration() {
+  static TranslationWatcher watcher;
+  return watcher.generation();
 }
 
 namespace {

@@ -39,6 +39,11 @@ class ZQKERNEL_API CZqResources {
 };
 ZQKERNEL_API CZqResources* GetZqResources();
 
+// A number that changes whenever the application's translators change
+// (a language installed or removed): texts translated once and kept must be
+// translated again when it differs from the one they were made under.
+ZQKERNEL_API unsigned zqTranslationGeneration();
+
 // Edition queries and small shared utilities.
 class ZQKERNEL_API CZqUtils {
  public:
