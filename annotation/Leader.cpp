@@ -72,6 +72,7 @@ void addDynamicRows(const OdDbObject* object, CZqPropertiesContainer* container,
   CZqCustomPropertyDescription* scale = ZqBuildDynamicDescription(annotationScale);
   scale->SetVisibility(scale->GetVisibility() ^ 8);
   scale->SetDescription(CZqString(scaleDescription));
+  scale->PutGroupActionMethod(ZqAnnotationScalesAction);
   container->AddDynamic(scale);
 }
 

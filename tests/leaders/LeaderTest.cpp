@@ -34,6 +34,16 @@ TEST_F(LeaderTest, RowsComeInPaletteOrderWithTheirEditors) {
   EXPECT_TRUE(color->GetType().GetTypeId().qstring().isEmpty());
   EXPECT_EQ(zqRow(rows.get(), "Misc", "DimStyle")->GetType().GetTypeId().qstring(), CZqPropertyType::kDimStyleGUID);
   EXPECT_EQ(zqRow(rows.get(), "Geometry", "Vertex")->GetType().GetTypeId().qstring(), CZqPropertyType::kVertexGUID);
+
+  // The scale row of an annotative leader edits the scales of the whole selection.
+  OdDbObjectPtr annotative = object(kAnnotativeLeader).openObject();
+  auto annotativeRows = zqRowsOf(annotative.get());
+  const CZqPropertyDescription* scale = zqRow(annotativeRows.get(), "Misc", "Annotative Scale");
+  ASSERT_NE(scale, nullptr);
+  ASSERT_NE(scale->GetGroupActionMethod(), nullptr);
+  EXPECT_EQ(scale->GetDescription().qstring(), QStringLiteral("Edit annotation scales"));
+  const CZqVariant scales = scale->GetGroupActionMethod()(OdDbObjectIdArray{object(kAnnotativeLeader)}, *scale, {}, {});
+  EXPECT_FALSE(scales.GetString().qstring().isEmpty());
 }
 
 TEST_F(LeaderTest, ScaleIsReadOnlyOnlyWhileAnnotative) {
