@@ -12,6 +12,7 @@ struct OdDbAnnotationScale {
   OdString name;
   double paperUnits = 1.0;
   double drawingUnits = 1.0;
+  quint64 handle = 0;  // the drawing's SCALE object (0 for a scale not read from a file)
   // Paper units per drawing unit: the factor that takes a size in the
   // drawing to its size on the sheet (0 for a malformed scale).
   double factor() const { return drawingUnits != 0.0 ? paperUnits / drawingUnits : 0.0; }

@@ -198,8 +198,10 @@ TEST_F(AnnotativeTest, DimensionTurnedAnnotative) {
 }
 
 // What is written: the application data a CAD host reads (flag 1, and flag
-// 0 once turned off), read back by ezdxf; the rest of the file unchanged.
-TEST(AnnotativeFile, TurningATextAnnotativeWritesItsMarkOnly) {
+// 0 once turned off) and, once annotative, the extension dictionary with the
+// context data of the current scale; read back by ezdxf and by our reader.
+// A second save adds nothing.
+TEST(AnnotativeFile, TurningATextAnnotativeWritesItsMarkAndScaleContext) {
   zqEnsureModuleLoaded();
   QString error;
   OdDbDatabasePtr db = OdDxf::readDrawing(kTextSample, error);
@@ -209,13 +211,26 @@ TEST(AnnotativeFile, TurningATextAnnotativeWritesItsMarkOnly) {
     if (textId.isNull() && id.openObject()->isA() == OdDbText::desc()) textId = id;
   });
   ASSERT_FALSE(textId.isNull());
+  const OdDbAnnotationScale* current = db->annotationScales().byName(db->annotationScales().current);
+  ASSERT_TRUE(current && current->handle);
   const QString handle = textId.getHandle().ascii().qstring();
   const char* script = R"(
 import sys, ezdxf
-e = ezdxf.readfile(sys.argv[1]).entitydb[sys.argv[2]]
+doc = ezdxf.readfile(sys.argv[1])
+e = doc.entitydb[sys.argv[2]]
 print([t.value for t in e.get_xdata("AcadAnnotative")] if e.has_xdata("AcadAnnotative") else None)
+contexts = []
+if e.has_extension_dict:
+    scales = e.get_extension_dict()["AcDbContextDataManager"]["ACDB_ANNOTATIONSCALES"]
+    for name, c in scales.items():
+        tags = {t.code: t.value for t in c.xtags.get_subclass("AcDbAnnotScaleObjectContextData")}
+        contexts.append([name, c.dxftype(), tags[340], c.dxf.owner == scales.dxf.handle])
+print(contexts)
+auditor = doc.audit()
+print(len(auditor.errors))
 )";
   QTemporaryDir dir;
+  QByteArray previous;
   for (const bool on : {true, false}) {
     {
       OdDbObjectPtr o = textId.openObject(OdDb::kForWrite);
@@ -224,9 +239,25 @@ print([t.value for t in e.get_xdata("AcadAnnotative")] if e.has_xdata("AcadAnnot
     const QString path = dir.filePath(QStringLiteral("out.dxf"));
     ASSERT_TRUE(OdDxf::writeDrawing(db.get(), path, error)) << error.toStdString();
     int code = 0;
-    const QString out = zqRunPython(QString::fromLatin1(script), {path, handle}, &code).trimmed();
+    const QStringList out = zqRunPython(QString::fromLatin1(script), {path, handle}, &code).trimmed().split('\n');
     EXPECT_EQ(code, 0);
-    EXPECT_EQ(out, on ? "['AnnotativeData', '{', 1, 1, '}']" : "['AnnotativeData', '{', 1, 0, '}']");
+    ASSERT_EQ(out.size(), 3) << out.join('\n').toStdString();
+    EXPECT_EQ(out[0], on ? "['AnnotativeData', '{', 1, 1, '}']" : "['AnnotativeData', '{', 1, 0, '}']");
+    // Turning the text off again keeps its context, as it keeps its mark.
+    EXPECT_EQ(out[1], QStringLiteral("[['*A1', 'ACDB_TEXTOBJECTCONTEXTDATA_CLASS', '%1', True]]")
+                          .arg(QString::number(current->handle, 16).toUpper()));
+    EXPECT_EQ(out[2], "0");
+
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QByteArray bytes = f.readAll();
+    OdDbDatabasePtr again = OdDxf::readDrawing(bytes, error);
+    ASSERT_TRUE(again) << error.toStdString();
+    EXPECT_EQ(again->annotationScales().objectScales.value(textId.getHandle().value()), QList<OdString>{current->name});
+    if (!previous.isEmpty()) {
+      EXPECT_EQ(bytes.count("ACDB_TEXTOBJECTCONTEXTDATA_CLASS"), previous.count("ACDB_TEXTOBJECTCONTEXTDATA_CLASS"));
+    }
+    previous = bytes;
   }
 }
 

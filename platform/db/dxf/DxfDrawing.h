@@ -168,6 +168,12 @@ inline QString typeName(const Record& r) { return printable(r.type()); }
 // for a drawing that cannot be read.
 void readObjects(DrawingData& d, OdDbDatabase* db, QStringList* warnings);
 
+// Gives the single-line texts made annotative in memory the extension
+// dictionary and context data of the drawing's current annotation scale
+// (DxfAnnotationContext.cpp); called by the writer once the sections are
+// up to date.
+void addAnnotationContexts(DrawingData& d, OdDbDatabase* db);
+
 // Checks every tag value outside HEADER against its group code's type
 // (DxfValueCheck.cpp): throws MapError for a malformed one, warns about
 // reals that are not finite.

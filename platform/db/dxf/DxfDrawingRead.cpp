@@ -236,6 +236,7 @@ void Reader::readAnnotationScales() {
       s.name = text(scale, 300);
       s.paperUnits = real(scale, 140, 1.0);
       s.drawingUnits = real(scale, 141, 1.0);
+      s.handle = h;
       scaleNames.insert(h, s.name);
       result.scales.append(s);
     });

@@ -523,6 +523,7 @@ void Writer::run() {
   }
   for (int s = 0; s < sections.size(); ++s)
     if (needsWalk(s)) walk(s);
+  addAnnotationContexts(m_d, m_db);
 
   for (int k = 0; k < kTableCount; ++k)
     if (!m_new.records[k].empty() && (k != 0 || m_ctx.markers))
