@@ -15,7 +15,8 @@
 // before it, so new tags land where the DXF reference puts them.
 //
 // Mapping a further class takes a fields function (see DxfCurves.cpp) and
-// one row in the table of DxfEntities.cpp (symbol table records: DxfTables.cpp).
+// one row in the table of DxfEntities.cpp (symbol table records: DxfTables.cpp;
+// objects of the OBJECTS section: DxfObjectsSection.cpp).
 #include "DxfFile.h"
 #include "DbDatabase.h"
 #include "DbEntity.h"
