@@ -22,6 +22,15 @@ QString ZqRenameRefusal(const OdDbSymbolTableRecord* record, const QString& name
 CZqVariant ZqGetRecordName(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&);
 int ZqSetRecordName(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&);
 
+// The "Name" row of an object a dictionary of the drawing names (a group,
+// a multiline style, a table style): the same rules as for records, checked
+// against the other entries of its dictionary; the styles named Standard
+// keep their name. Renaming renames its entry, which is what the drawing
+// refers to it by (multilines name their style, and follow it).
+QString ZqDictionaryRenameRefusal(const OdDbObject* object, const QString& name);
+CZqVariant ZqGetObjectName(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&);
+int ZqSetObjectName(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& value, const CZqVariant&);
+
 // --- Text ------------------------------------------------------------------------
 
 template <class T, OdString (T::*Get)() const>

@@ -358,7 +358,7 @@ void zqWriteListingJson(QIODevice& out, const QString& drawing, OdDbDatabase* db
       const OdDbObjectId owner = obj ? obj->ownerId() : OdDbObjectId();
       auto it = places.find(owner.stub());
       if (it == places.end()) it = places.emplace(owner.stub(), CZqObjectPlace::Of(obj)).first;
-      w.key("space").value(it->second.space).key("block").value(it->second.block);
+      w.key("space").value(it->second.space).key("block").value(it->second.block).key("layout").value(it->second.layout);
     }
     if (content.rows) {
       w.key("rows").beginObject();

@@ -188,7 +188,7 @@ int main(int argc, char** argv) {
   const QCommandLineOption blocks("blocks", "Also work on the objects inside block definitions.");
   const QCommandLineOption rows("rows", "List only these rows (Category/Name, comma list).", "ROWS");
   const QCommandLineOption records(
-      "records", "Work on the drawing's named records instead: layers, linetypes, textstyles, dimstyles (comma list).", "KINDS");
+      "records", "Work on the drawing's named records instead: layers, linetypes, textstyles, dimstyles, views, vports, groups, mlinestyles, tablestyles (comma list).", "KINDS");
   const QCommandLineOption names("name", "With --records: only the records with these names (wildcards, comma lists).", "NAMES");
   const QCommandLineOption keepGoing("keep-going", "Go on past errors in a script (the exit status still shows them).");
   parser.addOptions({list, info, handle, json, set, script, output, lang, ucs, inPlace, saveAs, force, vertex, strict,

@@ -1,6 +1,7 @@
 #pragma once
 // Providers of the drawing's named records: layers, linetypes, text styles
-// and dimension styles. Renaming any of them renames every reference.
+// and dimension styles, views, groups and styles. Renaming any of them
+// renames every reference.
 #include "ZqProvider.h"
 
 class CZqLayerPE : public ZqProvider<CZqLayerPE> {
@@ -17,4 +18,27 @@ class CZqTextStylePE : public ZqProvider<CZqTextStylePE> {
 
 class CZqDimensionStylePE : public ZqProvider<CZqDimensionStylePE> {
   ZQ_PROVIDER(CZqDimensionStylePE);
+};
+
+// Groups, multiline styles and table styles: objects of the drawing's
+// dictionaries, named by their entry.
+class CZqGroupPE : public ZqProvider<CZqGroupPE> {
+  ZQ_PROVIDER(CZqGroupPE);
+};
+
+class CZqRichLineStylePE : public ZqProvider<CZqRichLineStylePE> {
+  ZQ_PROVIDER(CZqRichLineStylePE);
+};
+
+class CZqTableStylePE : public ZqProvider<CZqTableStylePE> {
+  ZQ_PROVIDER(CZqTableStylePE);
+};
+
+// Named views and the viewport configuration of model space.
+class CZqViewTableRecordPE : public ZqProvider<CZqViewTableRecordPE> {
+  ZQ_PROVIDER(CZqViewTableRecordPE);
+};
+
+class CZqViewportTableRecordPE : public ZqProvider<CZqViewportTableRecordPE> {
+  ZQ_PROVIDER(CZqViewportTableRecordPE);
 };

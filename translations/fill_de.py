@@ -736,6 +736,37 @@ DE.setdefault("property_values", {}).update({
     "Use draft angles": "Neigungswinkel verwenden",
 })
 
+# Records: groups, multiline and table styles, views and viewport configurations
+DE.setdefault("entity_types", {}).update({
+    "Group": "Gruppe", "Multiline Style": "Multilinienstil", "Table Style": "Tabellenstil", "View": "Ansicht",
+    "Viewport Configuration": "Ansichtsfensterkonfiguration",
+})
+DE.setdefault("property_groups", {}).update({
+    "Caps": "Abschlüsse", "Fill": "Füllung", "Cell margins": "Zellränder", "View": "Ansicht", "Drawing aids": "Zeichenhilfen",
+})
+DE.setdefault("property_types", {}).update({
+    "Selectable": "Wählbar", "Members": "Mitglieder", "Elements": "Elemente", "Display joints": "Verbindungen anzeigen",
+    "Start line": "Linie am Anfang", "Start outer arc": "Äußerer Bogen am Anfang", "Start inner arcs": "Innere Bögen am Anfang",
+    "Start angle": "Startwinkel", "End line": "Linie am Ende", "End outer arc": "Äußerer Bogen am Ende",
+    "End inner arcs": "Innere Bögen am Ende", "End angle": "Endwinkel", "Fill": "Füllung", "Fill color": "Füllfarbe",
+    "Table direction": "Tabellenrichtung", "Horizontal": "Horizontal", "Vertical": "Vertikal",
+    "Center X": "Zentrum X", "Center Y": "Zentrum Y", "Height": "Höhe", "Width": "Breite", "Aspect ratio": "Seitenverhältnis",
+    "Target X": "Ziel X", "Target Y": "Ziel Y", "Target Z": "Ziel Z", "Direction X": "Richtung X", "Direction Y": "Richtung Y",
+    "Direction Z": "Richtung Z", "Lens length": "Objektivlänge", "Twist angle": "Verdrehwinkel", "Grid": "Raster",
+    "Grid X spacing": "Rasterabstand X", "Grid Y spacing": "Rasterabstand Y", "Snap": "Fang", "Snap X spacing": "Fangabstand X",
+    "Snap Y spacing": "Fangabstand Y", "Snap angle": "Fangwinkel",
+})
+DE.setdefault("property_values", {}).update({"Down": "Nach unten", "Up": "Nach oben"})
+DE.setdefault("errors", {}).update({
+    "view": "Ansicht", "group": "Gruppe", "multiline style": "Multilinienstil", "table style": "Tabellenstil",
+    "This %1 belongs to no dictionary of the drawing and cannot be renamed.":
+        "Diese(r) %1 gehört zu keinem Verzeichnis der Zeichnung und kann nicht umbenannt werden.",
+})
+DE.setdefault("CZqSelection", {}).update({
+    "\"%1\" names no kind of record: use layers, linetypes, textstyles, dimstyles, views, vports, groups, mlinestyles or tablestyles.":
+        "\"%1\" ist keine Art von Einträgen: layers, linetypes, textstyles, dimstyles, views, vports, groups, mlinestyles oder tablestyles verwenden.",
+})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

@@ -1,6 +1,7 @@
 #include "PaletteWindow.h"
 #include "DrawingView.h"
 #include "PaletteWidget.h"
+#include "DbLayout.h"
 #include "DbUndo.h"
 #include "DxfDatabase.h"
 #include "Listing.h"
@@ -125,7 +126,13 @@ bool ZqPaletteWindow::openDrawing(const QString& path, QString* why) {
     const QSignalBlocker block(m_spaces);
     while (m_spaces->count()) m_spaces->removeTab(0);
     m_spaces->addTab(QCoreApplication::translate("zqpalette", "Model"));
-    for (size_t i = 1; i < m_blocks.size(); ++i) m_spaces->addTab(QCoreApplication::translate("zqpalette", "Layout%1").arg(i));
+    // Each layout's tab shows the layout's name; one without a layout object
+    // its place among the tabs.
+    for (size_t i = 1; i < m_blocks.size(); ++i) {
+      OdDbObjectPtr l = oddbLayoutOf(m_blocks[unsigned(i)]).openObject();
+      auto* layout = odrxCast<OdDbLayout>(l.get());
+      m_spaces->addTab(layout ? layout->getLayoutName().qstring() : QCoreApplication::translate("zqpalette", "Layout%1").arg(i));
+    }
     m_spaces->setCurrentIndex(0);
   }
   m_palette->model()->setDatabase(m_db.get());

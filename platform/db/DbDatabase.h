@@ -64,6 +64,12 @@ class DB_API OdDbDatabase : public OdRxObject {
   OdDbObjectId getTextStyleTableId() const { return m_textStyleTable; }
   OdDbObjectId getDimStyleTableId() const { return m_dimStyleTable; }
   OdDbObjectId getRegAppTableId() const { return m_regAppTable; }
+  // Named views and viewport configurations; null in a drawing that has none.
+  OdDbObjectId getViewTableId() const { return m_viewTable; }
+  OdDbObjectId getViewportTableId() const { return m_viewportTable; }
+  // The root of the drawing's dictionaries (groups, styles, layouts, ...);
+  // null in a drawing that has none.
+  OdDbObjectId getNamedObjectsDictionaryId() const { return m_namedObjects; }
   OdDbObjectId getModelSpaceId() const;
   OdDbObjectId getPaperSpaceId() const;
   OdDbObjectId getLayerZeroId() const;
@@ -74,6 +80,11 @@ class DB_API OdDbDatabase : public OdRxObject {
   void setTableIdsInternal(const OdDbObjectId& block, const OdDbObjectId& layer, const OdDbObjectId& linetype,
                            const OdDbObjectId& textStyle, const OdDbObjectId& dimStyle,
                            const OdDbObjectId& regApp);
+  void setViewTableIdsInternal(const OdDbObjectId& view, const OdDbObjectId& viewport) {
+    m_viewTable = view;
+    m_viewportTable = viewport;
+  }
+  void setNamedObjectsDictionaryIdInternal(const OdDbObjectId& id) { m_namedObjects = id; }
   // Registers an application name for extended data (no-op when present).
   OdDbObjectId newRegApp(const OdString& name);
 
@@ -166,6 +177,7 @@ class DB_API OdDbDatabase : public OdRxObject {
   OdDbHandle m_handseed{1};
 
   OdDbObjectId m_blockTable, m_layerTable, m_linetypeTable, m_textStyleTable, m_dimStyleTable, m_regAppTable;
+  OdDbObjectId m_viewTable, m_viewportTable, m_namedObjects;
   int m_lunits = 2, m_luprec = 4, m_aunits = 0, m_auprec = 0, m_unitmode = 0, m_insunits = 0,
       m_measurement = 0, m_pdmode = 0;
   double m_angbase = 0, m_textsize = 2.5, m_ltscale = 1, m_celtscale = 1, m_pdsize = 0;

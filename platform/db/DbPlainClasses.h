@@ -28,6 +28,11 @@
 #include "DbHatch.h"
 #include "DbProxyEntity.h"
 #include "DbViewport.h"
+#include "DbViewTableRecord.h"
+#include "DbGroup.h"
+#include "DbMlineStyle.h"
+#include "DbTableStyle.h"
+#include "DbLayout.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

@@ -393,6 +393,11 @@ bool CZqPropertyPEClassFactory::isCreated() { return g_factoryCreated; }
 CZqPropertyBase* CZqPropertyPEClassFactory::providerFor(const OdDbObject* object) {
   if (!g_factoryCreated || !object || !CZqPropertyBase::desc()) return nullptr;
   OdRxObjectPtr x = object->queryX(CZqPropertyBase::desc());
+  // Groups answer to a protocol of their own, which the palette knows by
+  // its class name.
+  if (!x)
+    if (OdRxClass* groups = odrxClassDictionary().getAt(OdString("CZqGroupPE")); groups && groups->isDerivedFrom(CZqPropertyBase::desc()))
+      x = object->queryX(groups);
   auto* pe = static_cast<CZqPropertyBase*>(x.get());
   return pe ? pe->GetPropertyPEOverride(object) : nullptr;
 }

@@ -126,6 +126,8 @@ CZqObjectPlace CZqObjectPlace::Of(const OdDbObject* object) {
   if (!btr) return place;
   place.block = btr->getName().qstring();
   place.space = btr->isModelSpace() ? QStringLiteral("model") : btr->isPaperSpace() ? QStringLiteral("paper") : QStringLiteral("block");
+  OdDbObjectPtr layout = btr->isLayout() ? oddbLayoutOf(btr->objectId()).openObject() : OdDbObjectPtr();
+  if (auto* l = odrxCast<OdDbLayout>(layout.get())) place.layout = l->getLayoutName().qstring();
   return place;
 }
 
@@ -148,22 +150,32 @@ bool CZqSelectionFilter::Matches(const OdDbObject* object) const {
   return true;
 }
 
-bool CZqSelectionFilter::ParseRecordKind(const QString& word, OdDbObjectId (OdDbDatabase::**table)() const) {
+bool CZqSelectionFilter::ParseRecordKind(const QString& word, OdDbObjectId (OdDbDatabase::**table)() const,
+                                         const char** dictionary) {
+  // Symbol tables by their getter; the objects of a dictionary of the
+  // named-objects dictionary by the dictionary's name.
   struct Kind {
     const char* word;
     const char* type;
     OdDbObjectId (OdDbDatabase::*table)() const;
+    const char* dictionary;
   };
   static const Kind kKinds[] = {
-      {"layers", "LAYER", &OdDbDatabase::getLayerTableId},
-      {"linetypes", "LTYPE", &OdDbDatabase::getLinetypeTableId},
-      {"textstyles", "STYLE", &OdDbDatabase::getTextStyleTableId},
-      {"dimstyles", "DIMSTYLE", &OdDbDatabase::getDimStyleTableId},
+      {"layers", "LAYER", &OdDbDatabase::getLayerTableId, nullptr},
+      {"linetypes", "LTYPE", &OdDbDatabase::getLinetypeTableId, nullptr},
+      {"textstyles", "STYLE", &OdDbDatabase::getTextStyleTableId, nullptr},
+      {"dimstyles", "DIMSTYLE", &OdDbDatabase::getDimStyleTableId, nullptr},
+      {"views", "VIEW", &OdDbDatabase::getViewTableId, nullptr},
+      {"vports", "VPORT", &OdDbDatabase::getViewportTableId, nullptr},
+      {"groups", "GROUP", &OdDbDatabase::getNamedObjectsDictionaryId, "ACAD_GROUP"},
+      {"mlinestyles", "MLINESTYLE", &OdDbDatabase::getNamedObjectsDictionaryId, "ACAD_MLINESTYLE"},
+      {"tablestyles", "TABLESTYLE", &OdDbDatabase::getNamedObjectsDictionaryId, "ACAD_TABLESTYLE"},
   };
   const QString w = word.trimmed();
   for (const Kind& k : kKinds)
     if (w.compare(QLatin1String(k.word), Qt::CaseInsensitive) == 0 || w.compare(QLatin1String(k.type), Qt::CaseInsensitive) == 0) {
       *table = k.table;
+      if (dictionary) *dictionary = k.dictionary;
       return true;
     }
   return false;
@@ -175,11 +187,27 @@ bool CZqSelectionFilter::Select(OdDbDatabase* db, OdDbObjectIdArray& out, QStrin
   if (!records.isEmpty()) {
     for (const QString& word : records.split(',', Qt::SkipEmptyParts)) {
       OdDbObjectId (OdDbDatabase::*table)() const = nullptr;
-      if (!ParseRecordKind(word, &table)) {
+      const char* dictionary = nullptr;
+      if (!ParseRecordKind(word, &table, &dictionary)) {
         if (why)
-          *why = QCoreApplication::translate("CZqSelection", "\"%1\" names no kind of record: use layers, linetypes, textstyles or dimstyles.")
+          *why = QCoreApplication::translate("CZqSelection", "\"%1\" names no kind of record: use layers, linetypes, textstyles, dimstyles, views, vports, groups, mlinestyles or tablestyles.")
                      .arg(word.trimmed());
         return false;
+      }
+      auto take = [&](const OdDbObjectId& id, const QString& name) {
+        if (!id.isNull() && !id.isErased() && (names.isEmpty() || zqWildcardMatch(name, names)) && !out.contains(id))
+          out.append(id);
+      };
+      if (dictionary) {
+        // A multiline style shows its own copy of the name.
+        OdDbObjectPtr d = OdDbDictionary::findPath((db->*table)(), {OdString(dictionary)}).openObject();
+        if (auto* dict = odrxCast<OdDbDictionary>(d.get()))
+          for (const OdDbDictionary::Entry& e : dict->entries()) {
+            OdDbObjectPtr o = e.second.openObject();
+            auto* style = odrxCast<OdDbMlineStyle>(o.get());
+            take(e.second, style ? style->name().qstring() : e.first.qstring());
+          }
+        continue;
       }
       OdDbObjectPtr t = (db->*table)().openObject();
       auto* symbols = odrxCast<OdDbSymbolTable>(t.get());
@@ -187,8 +215,7 @@ bool CZqSelectionFilter::Select(OdDbDatabase* db, OdDbObjectIdArray& out, QStrin
       for (const OdDbObjectId& id : symbols->recordIds()) {
         if (id.isErased()) continue;
         OdDbObjectPtr rec = id.openObject();
-        const QString name = static_cast<OdDbSymbolTableRecord*>(rec.get())->getName().qstring();
-        if ((names.isEmpty() || zqWildcardMatch(name, names)) && !out.contains(id)) out.append(id);
+        take(id, static_cast<OdDbSymbolTableRecord*>(rec.get())->getName().qstring());
       }
     }
     return true;

@@ -26,14 +26,19 @@ class ZQKERNEL_API CZqSelectionFilter {
   std::optional<Space> space;   // unset: model space (or, with handles, wherever they are)
   bool blocks = false;          // also the objects inside block definitions
   // Named records instead of drawing objects: the tables by word (layers,
-  // linetypes, textstyles, dimstyles) or record type (LAYER, LTYPE, STYLE,
-  // DIMSTYLE), comma list; `names` narrows them (wildcards, commas).
+  // linetypes, textstyles, dimstyles, views, vports) or record type (LAYER,
+  // LTYPE, STYLE, DIMSTYLE, VIEW, VPORT), and the objects of the drawing's
+  // dictionaries (groups, mlinestyles, tablestyles, or GROUP, MLINESTYLE,
+  // TABLESTYLE), comma list; `names` narrows them (wildcards, commas).
   QString records;
   QString names;
 
   // The table a --records word names (the ids of its database's table), or
-  // false for a word that names none.
-  static bool ParseRecordKind(const QString& word, OdDbObjectId (OdDbDatabase::**table)() const);
+  // false for a word that names none. For the objects of a dictionary,
+  // `table` gives the named-objects dictionary and `dictionary` the name of
+  // theirs in it (null for a table).
+  static bool ParseRecordKind(const QString& word, OdDbObjectId (OdDbDatabase::**table)() const,
+                              const char** dictionary = nullptr);
 
   // Whether anything beyond the default (every object of model space) was asked for.
   bool IsSet() const {
@@ -65,9 +70,11 @@ class ZQKERNEL_API CZqSelectionFilter {
 };
 
 // Where an object lives: "model", "paper" (a layout) or "block" (a block
-// definition), and the name of the block record that holds it.
+// definition), the name of the block record that holds it and the name of
+// that block's layout as the drawing's tabs show it ("Model", "Sheet 1").
 struct ZQKERNEL_API CZqObjectPlace {
   QString space;
   QString block;
+  QString layout;  // the name of the block's layout (its tab); empty in block definitions
   static CZqObjectPlace Of(const OdDbObject* object);
 };

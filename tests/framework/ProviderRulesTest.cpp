@@ -281,19 +281,32 @@ OdDbObjectId objectServedBy(OdDbDatabase* db, OdRxClass* cls, const char* provid
     if (auto* entity = odrxCast<OdDbEntity>(made.get())) {
       id = addEntity(entity);
     } else if (auto* record = odrxCast<OdDbSymbolTableRecord>(made.get())) {
+      // A new drawing has no view tables; the walk gives it empty ones.
+      if (db->getViewTableId().isNull())
+        db->setViewTableIdsInternal(db->addOdDbObject(OdDbViewTable::createObject().get()),
+                                    db->addOdDbObject(OdDbViewportTable::createObject().get()));
       for (const OdDbObjectId& t : {db->getLayerTableId(), db->getLinetypeTableId(), db->getTextStyleTableId(),
-                                    db->getDimStyleTableId()}) {
+                                    db->getDimStyleTableId(), db->getViewTableId(), db->getViewportTableId()}) {
         OdDbObjectPtr tableObject = t.openObject(OdDb::kForWrite);
         auto* table = odrxCast<OdDbSymbolTable>(tableObject.get());
         if (!table || !c->isDerivedFrom(table->recordClass())) continue;
         record->setName(OdString("Walked"));
         id = table->add(record);
       }
+    } else if (auto* object = odrxCast<OdDbObject>(made.get()); object && !object->isKindOf(OdDbSymbolTable::desc())) {
+      // Groups and styles: entries of a dictionary, which names them.
+      if (db->getNamedObjectsDictionaryId().isNull())
+        db->setNamedObjectsDictionaryIdInternal(db->addOdDbObject(OdDbDictionary::createObject().get()));
+      OdDbObjectPtr d = db->getNamedObjectsDictionaryId().openObject(OdDb::kForWrite);
+      id = db->addOdDbObject(object, d->objectId());
+      static_cast<OdDbDictionary*>(d.get())->setAt(OdString(QStringLiteral("Walked") + c->name().qstring()), id);
     }
     made.release();
     if (id.isNull()) continue;
     OdDbObjectPtr obj = id.openObject();
+    // Groups answer to a protocol of their own, which the palette asks too.
     CZqPropertyBase* pe = zqProviderFor(obj.get());
+    if (!pe) pe = CZqPropertyPEClassFactory::providerFor(obj.get());
     // Style providers have no class descriptor of their own: their C++ type names them.
     if (pe && (pe->isA() ? pe->isA()->name().toStdString() == provider
                          : std::string(typeid(*pe).name()).find(provider) != std::string::npos))

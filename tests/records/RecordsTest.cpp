@@ -250,13 +250,18 @@ TEST(RecordSamples, EveryRecordListsWithItsOwnProviderAndRoundTrips) {
   const QMap<QString, QStringList> shown = {{"LAYER", {"Layer", "CZqLayerPE"}},
                                             {"LTYPE", {"Linetype", "CZqLineStylePE"}},
                                             {"STYLE", {"Text Style", "CZqTextStylePE"}},
-                                            {"DIMSTYLE", {"Dimension Style", "CZqDimensionStylePE"}}};
+                                            {"DIMSTYLE", {"Dimension Style", "CZqDimensionStylePE"}},
+                                            {"VIEW", {"View", "CZqViewTableRecordPE"}},
+                                            {"VPORT", {"Viewport Configuration", "CZqViewportTableRecordPE"}},
+                                            {"GROUP", {"Group", "CZqGroupPE"}},
+                                            {"MLINESTYLE", {"Multiline Style", "CZqRichLineStylePE"}},
+                                            {"TABLESTYLE", {"Table Style", "CZqTableStylePE"}}};
   const QStringList samples = QDir(ZQ_SAMPLES_DIR).entryList({"*.dxf"}, QDir::Files);
   ASSERT_FALSE(samples.isEmpty());
   for (const QString& name : samples) {
     SCOPED_TRACE(name.toStdString());
     const QString path = QString(ZQ_SAMPLES_DIR) + "/" + name;
-    const ProgramRun run = zqprops({path, "--records", "layers,linetypes,textstyles,dimstyles", "--json"});
+    const ProgramRun run = zqprops({path, "--records", "layers,linetypes,textstyles,dimstyles,views,vports,groups,mlinestyles,tablestyles", "--json"});
     if (run.code != 0) {
       // Drawings the platform refuses to read are refused before any record.
       EXPECT_TRUE(run.err.contains("zqprops:")) << run.err.toStdString();

@@ -30,6 +30,8 @@ CZqPrintObjectInfoPE* zqInfoFor(const OdDbObject* object) {
 
 std::unique_ptr<CZqPropertiesContainer> zqRowsOf(const OdDbObject* object) {
   CZqPropertyBase* pe = zqProviderFor(object);
+  // Groups answer to a protocol of their own, as the palette asks them.
+  if (!pe) pe = CZqPropertyPEClassFactory::providerFor(object);
   if (!pe) return nullptr;
   CZqPropertiesContainer* c = nullptr;
   pe->GetPropertyNames(object, c, nullptr, nullptr, false);

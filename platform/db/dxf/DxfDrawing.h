@@ -3,6 +3,7 @@
 // that read a file into a database (DxfDrawingRead.cpp) and write it back
 // (DxfDrawingWrite.cpp). Not installed.
 #include "DxfMapping.h"
+#include "DbViewTableRecord.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -138,6 +139,8 @@ inline const TableKind kTables[] = {
     {"STYLE", "STYLE", &OdDbTextStyleTable::desc, &Context::styles},
     {"DIMSTYLE", "DIMSTYLE", &OdDbDimStyleTable::desc, &Context::dimstyles},
     {"APPID", "APPID", &OdDbRegAppTable::desc, &Context::regapps},
+    {"VIEW", "VIEW", &OdDbViewTable::desc, &Context::views},
+    {"VPORT", "VPORT", &OdDbViewportTable::desc, &Context::vports},
 };
 constexpr int kTableCount = int(std::size(kTables));
 
@@ -148,7 +151,9 @@ inline OdDbObjectId tableId(OdDbDatabase* db, int k) {
     case 2: return db->getLinetypeTableId();
     case 3: return db->getTextStyleTableId();
     case 4: return db->getDimStyleTableId();
-    default: return db->getRegAppTableId();
+    case 5: return db->getRegAppTableId();
+    case 6: return db->getViewTableId();
+    default: return db->getViewportTableId();
   }
 }
 
@@ -163,6 +168,12 @@ void readFields(RecordIO& io, OdDbObject* obj);
 void writeFields(RecordIO& io, OdDbObject* obj, const OdDbObject* before);
 
 inline QString typeName(const Record& r) { return printable(r.type()); }
+
+// Reads the OBJECTS section `s` (DxfObjectsSection.cpp): `add` puts an
+// object into the database with the record's handle and binds it to record
+// `i`. `handles` are the section's records' handles.
+void readObjectsSection(DrawingData& d, int s, const std::vector<quint64>& handles,
+                        const std::function<OdDbObjectId(OdDbObject*, quint64 handle, int i)>& add);
 
 // Reads the parsed file of `d` into the (empty) database. Throws MapError
 // for a drawing that cannot be read.

@@ -1,6 +1,7 @@
 // Reading: a parsed DXF file becomes the objects of a database - handles
 // checked and repaired, tables, blocks and their entities, the entities of
-// every ENTITIES section, header variables.
+// every ENTITIES section, header variables, and the objects of the OBJECTS
+// section (DxfObjectsSection.cpp).
 #include "DbPlainClasses.h"
 #include "DxfDrawing.h"
 #include "DxfInternal.h"
@@ -309,7 +310,9 @@ void Reader::readTables(int s, bool (*want)(int k)) {
     const OdDbObjectId id = addObject(rec, m_tables[k], handleOf(s, i), s, i);
     table(k)->appendInternal(id);
     // Text styles of shape files have no name; nothing refers to them by it.
-    if (!name.isEmpty() && !(m_ctx.*kTables[k].index).add(name, id))
+    // A configuration of several viewports has a VPORT record per viewport,
+    // all of one name.
+    if (!name.isEmpty() && !(m_ctx.*kTables[k].index).add(name, id) && kTables[k].index != &Context::vports)
       m_ctx.warn(QStringLiteral("%1: a second %2 named '%3'; references to the name go to the first")
                      .arg(m_ctx.where(r, 0), typeName(r), name));
   }
@@ -337,6 +340,7 @@ void Reader::ensureTable(int k) {
 void Reader::ensureTables() {
   for (int k = 0; k < kTableCount; ++k) ensureTable(k);
   m_db->setTableIdsInternal(m_tables[0], m_tables[1], m_tables[2], m_tables[3], m_tables[4], m_tables[5]);
+  m_db->setViewTableIdsInternal(m_tables[6], m_tables[7]);
   for (const char* name : {"ByBlock", "ByLayer", "Continuous"})
     if (m_ctx.linetypes.find(QString::fromLatin1(name)).isNull()) {
       auto lt = OdDbLinetypeTableRecord::createObject();
@@ -562,6 +566,11 @@ void Reader::run() {
   }
   readHeader(m_ctx);
   m_ctx.missingRecord = nullptr;
+  for (int s = 0; s < f.sections().size(); ++s)
+    if (section(s).name == "OBJECTS")
+      readObjectsSection(m_d, s, m_handles[size_t(s)], [&](OdDbObject* obj, quint64 handle, int i) {
+        return addObject(obj, OdDbObjectId(), handle, s, i);
+      });
 }
 
 }  // namespace

@@ -23,6 +23,26 @@ bool gone(const OdDbObject* o) {
   return false;
 }
 
+// Where records are named by other records: the group code of
+// the name and the record types that carry it (none listed: every entity
+// and block record). Dimension styles name their text style by handle,
+// which a rename leaves as it is.
+struct RenameRule {
+  const char* recordType;
+  int code;
+  std::initializer_list<const char*> in;
+  bool alsoLayers;  // LAYER records name it too
+};
+const RenameRule kRenameRules[] = {
+    {"LAYER", 8, {}, false},
+    {"LTYPE", 6, {}, true},
+    {"STYLE", 7, {"TEXT", "MTEXT", "ATTRIB", "ATTDEF", "ARCALIGNEDTEXT"}, false},
+    {"DIMSTYLE", 3, {"DIMENSION", "ARC_DIMENSION", "LARGE_RADIAL_DIMENSION", "LEADER", "TOLERANCE"}, false},
+    // Multiline styles (OBJECTS section) are named by multilines and $CMLSTYLE.
+    {"MLINESTYLE", 2, {"MLINE"}, false},
+};
+constexpr int kRenameRuleCount = int(std::size(kRenameRules));
+
 class Writer {
  public:
   // Brings `d`, a copy of `kept`, up to date with the database.
@@ -65,7 +85,7 @@ class Writer {
   OdDbDatabase* m_db;
   Pending m_new;
   // Per kind of record (kRenameRules), its renames: case-folded old name -> new name.
-  QHash<QString, QString> m_renames[4];
+  QHash<QString, QString> m_renames[kRenameRuleCount];
   bool anyRenames() const {
     for (const auto& r : m_renames)
       if (!r.isEmpty()) return true;
@@ -139,47 +159,46 @@ void Writer::registerApps() {
   }
 }
 
-// Where records of a table are named by other records: the group code of
-// the name and the record types that carry it (none listed: every entity
-// and block record). Dimension styles name their text style by handle,
-// which a rename leaves as it is.
-struct RenameRule {
-  const char* recordType;
-  int code;
-  std::initializer_list<const char*> in;
-  bool alsoLayers;  // LAYER records name it too
-};
-const RenameRule kRenameRules[] = {
-    {"LAYER", 8, {}, false},
-    {"LTYPE", 6, {}, true},
-    {"STYLE", 7, {"TEXT", "MTEXT", "ATTRIB", "ATTDEF", "ARCALIGNEDTEXT"}, false},
-    {"DIMSTYLE", 3, {"DIMENSION", "ARC_DIMENSION", "LARGE_RADIAL_DIMENSION", "LEADER", "TOLERANCE"}, false},
-};
-
 // A renamed record is renamed wherever another record names it. Other
-// tables' names are not followed, so renaming their records is refused.
+// tables' names are not followed, so renaming their records is refused;
+// nothing names a view by its name. In the OBJECTS section only the
+// records of kRenameRules carry their name themselves (groups and table
+// styles have theirs in their dictionary, which is patched like any object).
 void Writer::collectRenames() {
-  int s = 0;
-  while (s < m_d.file.sections().size() && m_d.file.sections()[s].name != "TABLES") ++s;
-  if (s == m_d.file.sections().size()) return;
-  const Section* tables = &std::as_const(m_d.file).sections()[s];
-  for (int i = 0; i < tables->records.size(); ++i) {
-    OdDbStub* stub = m_d.owners[size_t(s)][size_t(i)];
-    if (!stub || !stub->object || !stub->object->isModified()) continue;
-    const Record& r = tables->records[i];
-    auto* rec = odrxCast<OdDbSymbolTableRecord>(stub->object);
-    if (!rec || rec->isErased() || r.isType("TABLE")) continue;
-    const int ni = r.find(2);
-    if (ni < 0) continue;
-    OdDbObjectPtr open = OdDbObjectId(stub).openObject();
-    const QString was = r.str(ni).trimmed(), now = rec->getName().qstring();
-    if (was == now || blockName(was) == now) continue;
-    int k = 0;
-    while (k < int(std::size(kRenameRules)) && !r.isType(kRenameRules[k].recordType)) ++k;
-    if (k == int(std::size(kRenameRules)))
-      throw MapError{QStringLiteral("%1 '%2' renamed to '%3': renaming it is not supported when saving")
-                         .arg(typeName(r), was, now)};
-    m_renames[k].insert(was.toCaseFolded(), now);
+  const QList<Section>& sections = std::as_const(m_d.file).sections();
+  for (int s = 0; s < sections.size(); ++s) {
+    const bool objects = sections[s].name == "OBJECTS";
+    if (sections[s].name != "TABLES" && !objects) continue;
+    const Section* sec = &sections[s];
+    for (int i = 0; i < sec->records.size(); ++i) {
+      OdDbStub* stub = m_d.owners[size_t(s)][size_t(i)];
+      if (!stub || !stub->object || !stub->object->isModified()) continue;
+      const Record& r = sec->records[i];
+      if (r.isType("TABLE") || r.isType("VIEW") || stub->object->isErased()) continue;
+      int k = 0;
+      while (k < kRenameRuleCount && !r.isType(kRenameRules[k].recordType)) ++k;
+      if (objects && k == kRenameRuleCount) continue;
+      OdDbObjectPtr open = OdDbObjectId(stub).openObject();
+      QString now;
+      if (auto* rec = odrxCast<OdDbSymbolTableRecord>(open.get())) now = rec->getName().qstring();
+      else if (auto* style = odrxCast<OdDbMlineStyle>(open.get())) now = style->name().qstring();
+      else continue;
+      const int ni = r.find(2);
+      if (ni < 0) continue;
+      const QString was = r.str(ni).trimmed();
+      if (was == now || blockName(was) == now) continue;
+      if (k == kRenameRuleCount)
+        throw MapError{QStringLiteral("%1 '%2' renamed to '%3': renaming it is not supported when saving")
+                           .arg(typeName(r), was, now)};
+      m_renames[k].insert(was.toCaseFolded(), now);
+    }
+  }
+  // The current multiline style, by name.
+  const QHash<QString, QString>& mlineStyles = m_renames[kRenameRuleCount - 1];
+  if (Record* var = mlineStyles.isEmpty() ? nullptr : m_d.file.headerVariable("$CMLSTYLE")) {
+    const int i = var->find(2, 1);
+    const auto it = i >= 0 ? mlineStyles.find(var->str(i).trimmed().toCaseFolded()) : mlineStyles.end();
+    if (it != mlineStyles.end()) writeString(m_ctx, *var, i, it.value());
   }
 }
 

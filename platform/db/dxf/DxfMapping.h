@@ -15,7 +15,8 @@
 // before it, so new tags land where the DXF reference puts them.
 //
 // Mapping a further class takes a fields function (see DxfCurves.cpp) and
-// one row in the table of DxfEntities.cpp (symbol table records: DxfTables.cpp).
+// one row in the table of DxfEntities.cpp (symbol table records: DxfTables.cpp;
+// objects of the OBJECTS section: DxfObjectsSection.cpp).
 #include "DxfFile.h"
 #include "DbDatabase.h"
 #include "DbEntity.h"
@@ -117,7 +118,7 @@ struct Context {
   QStringList* warnings = nullptr;
   int warningCount = 0;
 
-  NameIndex layers, linetypes, styles, dimstyles, regapps, blocks;
+  NameIndex layers, linetypes, styles, dimstyles, regapps, blocks, views, vports;
   // Plot style names by the handle of their placeholder object (the
   // ACAD_PLOTSTYLENAME dictionary), and back.
   QHash<quint64, QString> plotStyleNames;
@@ -482,6 +483,10 @@ const ClassMapping* blockEntityMapping(const OdRxClass* cls);
 // Symbol table records, by class or by record type.
 const ClassMapping* recordMapping(const OdRxClass* cls);
 const ClassMapping* recordMapping(QByteArrayView type);
+// Objects of the OBJECTS section (DxfObjectsSection.cpp); recordMapping
+// answers for them too.
+const ClassMapping* objectMapping(const OdRxClass* cls);
+const ClassMapping* objectMapping(QByteArrayView type);
 // Applications whose extended data a class maps to values of its own.
 QStringList ownXdataApps(const OdRxClass* cls);
 // The BLOCK record that starts a block's definition (name, base point).

@@ -167,6 +167,68 @@ void blockRecordFields(Fields<OdDbBlockTableRecord>& f) {
   f.integer(281, &B::blockScaling, &B::setBlockScaling, 0, Opt::Optional);
 }
 
+// A 2D point of a view (display coordinates) through the 3D point fields.
+template <class T, auto Get, auto Set>
+void point2d(Fields<T>& f, int code) {
+  f.point(
+      code, [](const T* t) { const OdGePoint2d p = (t->*Get)(); return OdGePoint3d(p.x, p.y, 0); },
+      [](T* t, const OdGePoint3d& p) { (t->*Set)(OdGePoint2d(p.x, p.y)); }, Opt::Required, 2);
+}
+
+// What views and viewport configurations share, after their own first fields.
+template <class T>
+void viewDirectionFields(Fields<T>& f, int directionCode) {
+  f.point(directionCode, &T::viewDirection, &T::setViewDirection);
+  f.point(directionCode + 1, &T::target, &T::setTarget);
+}
+
+// The file keeps angles in degrees.
+template <class T, auto Get, auto Set>
+void degrees(Fields<T>& f, int code) {
+  f.real(
+      code, [](const T* t) { return qRadiansToDegrees((t->*Get)()); },
+      [](T* t, double deg) { (t->*Set)(qDegreesToRadians(deg)); });
+}
+
+void viewFields(Fields<OdDbViewTableRecord>& f) {
+  using V = OdDbViewTableRecord;
+  f.subclass("AcDbViewTableRecord");
+  nameField(f);
+  f.integer(70, &V::flags, &V::setFlags);
+  f.real(40, &V::height, &V::setHeight, 1.0);
+  point2d<V, &V::centerPoint, &V::setCenterPoint>(f, 10);
+  f.real(41, &V::width, &V::setWidth, 1.0);
+  viewDirectionFields(f, 11);
+  f.real(42, &V::lensLength, &V::setLensLength, 50.0);
+  f.io().skip(43);
+  f.io().skip(44);
+  degrees<V, &V::viewTwist, &V::setViewTwist>(f, 50);
+}
+
+void vportFields(Fields<OdDbViewportTableRecord>& f) {
+  using V = OdDbViewportTableRecord;
+  f.subclass("AcDbViewportTableRecord");
+  nameField(f);
+  f.io().skip(70);
+  f.io().skip(10, 2);
+  f.io().skip(11, 2);
+  point2d<V, &V::centerPoint, &V::setCenterPoint>(f, 12);
+  point2d<V, &V::snapBase, &V::setSnapBase>(f, 13);
+  point2d<V, &V::snapIncrements, &V::setSnapIncrements>(f, 14);
+  point2d<V, &V::gridIncrements, &V::setGridIncrements>(f, 15);
+  viewDirectionFields(f, 16);
+  f.real(40, &V::height, &V::setHeight, 1.0);
+  f.real(41, &V::aspectRatio, &V::setAspectRatio, 1.0);
+  f.real(42, &V::lensLength, &V::setLensLength, 50.0);
+  f.io().skip(43);
+  f.io().skip(44);
+  degrees<V, &V::snapAngle, &V::setSnapAngle>(f, 50);
+  degrees<V, &V::viewTwist, &V::setViewTwist>(f, 51);
+  for (int code : {71, 72, 73, 74}) f.io().skip(code);
+  f.integer(75, &V::snapEnabled, &V::setSnapEnabled);
+  f.integer(76, &V::gridEnabled, &V::setGridEnabled);
+}
+
 //                                   record          class                              since  fields
 constexpr ClassMapping kRecords[] = {
     {"LAYER",        &OdDbLayerTableRecord::desc,     0,    &fieldsOf<OdDbLayerTableRecord, layerFields>},
@@ -175,6 +237,8 @@ constexpr ClassMapping kRecords[] = {
     {"DIMSTYLE",     &OdDbDimStyleTableRecord::desc,  0,    &fieldsOf<OdDbDimStyleTableRecord, dimStyleFields>},
     {"APPID",        &OdDbRegAppTableRecord::desc,    1009, &fieldsOf<OdDbRegAppTableRecord, regAppFields>},
     {"BLOCK_RECORD", &OdDbBlockTableRecord::desc,     1012, &fieldsOf<OdDbBlockTableRecord, blockRecordFields>},
+    {"VIEW",         &OdDbViewTableRecord::desc,      0,    &fieldsOf<OdDbViewTableRecord, viewFields>},
+    {"VPORT",        &OdDbViewportTableRecord::desc,  0,    &fieldsOf<OdDbViewportTableRecord, vportFields>},
 };
 
 }  // namespace
@@ -182,13 +246,13 @@ constexpr ClassMapping kRecords[] = {
 const ClassMapping* recordMapping(const OdRxClass* cls) {
   for (const ClassMapping& m : kRecords)
     if (m.desc() == cls) return &m;
-  return nullptr;
+  return objectMapping(cls);
 }
 
 const ClassMapping* recordMapping(QByteArrayView type) {
   for (const ClassMapping& m : kRecords)
     if (type == m.dxfName) return &m;
-  return nullptr;
+  return objectMapping(type);
 }
 
 QStringList ownXdataApps(const OdRxClass* cls) {
