@@ -28,6 +28,11 @@
 #include "DbHatch.h"
 #include "DbProxyEntity.h"
 #include "DbViewport.h"
+#include "DbImage.h"
+#include "DbTable.h"
+#include "DbUnderlay.h"
+#include "DbOle.h"
+#include "DbLight.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \
