@@ -33,3 +33,63 @@ class CZqProxyEntityInfo : public CZqPrintObjectInfoPE {
  public:
   void PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) override;
 };
+
+// Raster images: position in the current UCS, rotation, size and scale,
+// the picture's name, file and whether it is found, brightness, contrast,
+// fade and the display switches.
+class CZqRasterImagePE : public ZqProvider<CZqRasterImagePE> {
+  ZQ_PROVIDER(CZqRasterImagePE);
+};
+
+// Raster images print through the generic provider; this one lists the
+// picture's own lines when asked directly.
+class CZqRasterImageInfo : public CZqPrintObjectInfoPE {
+ public:
+  void PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) override;
+};
+
+// Tables: rows, columns, style, direction, size, and the text of the cell
+// the host's index selects.
+class CZqTablePE : public ZqProvider<CZqTablePE> {
+  ZQ_PROVIDER(CZqTablePE);
+};
+
+class CZqTableInfo : public CZqPrintObjectInfoPE {
+ public:
+  void PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) override;
+};
+
+// PDF and DGN underlays: file, sheet, whether found, position, scale,
+// rotation, clipping, contrast, fade, monochrome and show.
+class CZqPdfReferencePE : public ZqProvider<CZqPdfReferencePE> {
+  ZQ_PROVIDER(CZqPdfReferencePE);
+};
+class CZqDgnReferencePE : public ZqProvider<CZqDgnReferencePE> {
+  ZQ_PROVIDER(CZqDgnReferencePE);
+};
+class CZqPdfReferenceInfo : public CZqPrintObjectInfoPE {
+ public:
+  void PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) override;
+};
+class CZqDgnReferenceInfo : public CZqPdfReferenceInfo {};
+
+// OLE frames: the kind of object, position, width and height.
+class CZqOle2FramePE : public ZqProvider<CZqOle2FramePE> {
+  ZQ_PROVIDER(CZqOle2FramePE);
+};
+
+class CZqOle2FrameInfo : public CZqPrintObjectInfoPE {
+ public:
+  void PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) override;
+};
+
+// Lights: name, type, on, intensity, position and target in the current
+// UCS, the hotspot and falloff cones of spot lights, shadows.
+class CZqLightPE : public ZqProvider<CZqLightPE> {
+  ZQ_PROVIDER(CZqLightPE);
+};
+
+class CZqLightInfo : public CZqPrintObjectInfoPE {
+ public:
+  void PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) override;
+};

@@ -767,6 +767,59 @@ DE.setdefault("CZqSelection", {}).update({
         "\"%1\" ist keine Art von Einträgen: layers, linetypes, textstyles, dimstyles, views, vports, groups, mlinestyles oder tablestyles verwenden.",
 })
 
+# Raster images, tables, underlays and OLE frames.
+DE.setdefault("entity_types", {}).update({"Raster Image": "Rasterbild", "Table": "Tabelle", "PDF Underlay": "PDF-Unterlage",
+                                          "DGN Underlay": "DGN-Unterlage", "OLE Object": "OLE-Objekt"})
+DE.setdefault("property_groups", {}).update({"Table": "Tabelle", "Cell": "Zelle"})
+DE.setdefault("property_types", {}).update({
+    "Path": "Pfad", "Status": "Status", "Brightness": "Helligkeit", "Contrast": "Kontrast", "Fade": "Blasser",
+    "Show image": "Bild anzeigen", "Show clipped": "Zugeschnitten anzeigen", "Show underlay": "Unterlage anzeigen",
+    "Monochrome": "Monochrom", "Sheet": "Blatt", "Table width": "Tabellenbreite",
+    "Table height": "Tabellenhöhe", "Table style": "Tabellenstil", "Direction": "Richtung", "Cell": "Zelle",
+    "Contents": "Inhalt", "Type": "Typ",
+})
+DE.setdefault("property_values", {}).update({
+    "found": "gefunden", "not found": "nicht gefunden", "Row %1, column %2": "Zeile %1, Spalte %2", "Down": "Nach unten",
+    "Up": "Nach oben", "Linked": "Verknüpft", "Embedded": "Eingebettet", "Static": "Statisch",
+})
+DE.setdefault("errors", {}).update({
+    "An image's size and scale must be greater than 0.": "Größe und Maßstab eines Bildes müssen größer als 0 sein.",
+    "The image does not lie in the XY plane of the current UCS: its rotation cannot be set there.":
+        "Das Bild liegt nicht in der XY-Ebene des aktuellen BKS: seine Drehung kann dort nicht eingestellt werden.",
+    "%1 is a whole number.": "%1 ist eine ganze Zahl.",
+    "An underlay's scale must be greater than 0.": "Der Maßstab einer Unterlage muss größer als 0 sein.",
+    "An OLE object's width and height must be greater than 0.": "Breite und Höhe eines OLE-Objekts müssen größer als 0 sein.",
+    "There is no cell %1: the table has %2 cells.": "Es gibt keine Zelle %1: die Tabelle hat %2 Zellen.",
+    "A cell's text is one line: write a line break as \\P.": "Der Text einer Zelle ist eine Zeile: schreiben Sie einen Zeilenumbruch als \\P.",
+    "A cell's text can be at most 250 characters long.": "Der Text einer Zelle darf höchstens 250 Zeichen lang sein.",
+    "This cell holds a block, not text.": "Diese Zelle enthält einen Block, keinen Text.",
+    "The drawing keeps no text of its own for this cell: it cannot be edited here.":
+        "Die Zeichnung speichert für diese Zelle keinen eigenen Text: er kann hier nicht bearbeitet werden.",
+})
+DE.setdefault("info_items", {}).update({
+    "Image name": "Bildname", "Saved path": "Gespeicherter Pfad", "Status": "Status", "Insertion point": "Einfügepunkt",
+    "Rotation": "Drehung", "Underlay name": "Name der Unterlage", "Table style": "Tabellenstil",
+    "Table width": "Tabellenbreite", "Table height": "Tabellenhöhe", "Type": "Typ",
+    "Upper left corner": "Obere linke Ecke", "Lower right corner": "Untere rechte Ecke",
+})
+DE.setdefault("info_values", {}).update({"found": "gefunden", "not found": "nicht gefunden"})
+
+DE.setdefault("entity_types", {}).update({"Light": "Licht"})
+DE.setdefault("property_types", {}).update({"Intensity factor": "Intensitätsfaktor", "Shadows": "Schatten",
+                                            "Target X": "Ziel X", "Target Y": "Ziel Y", "Target Z": "Ziel Z",
+                                            "Hotspot angle": "Hotspot-Winkel", "Falloff angle": "Abfallwinkel"})
+DE.setdefault("property_values", {}).update({"Distant": "Entfernt", "Point": "Punkt", "Spot": "Spot"})
+DE.setdefault("errors", {}).update({
+    "A light needs a name.": "Ein Licht braucht einen Namen.",
+    "A light's name is one line: it cannot contain line breaks or control characters.":
+        "Der Name eines Lichts ist eine Zeile: er darf keine Zeilenumbrüche oder Steuerzeichen enthalten.",
+    "The hotspot of a light cannot be wider than its falloff.": "Der Hotspot eines Lichts kann nicht breiter als sein Abfall sein.",
+    "A light's cone angle must be greater than 0 and at most 160 degrees.":
+        "Der Kegelwinkel eines Lichts muss größer als 0 und höchstens 160 Grad sein.",
+})
+DE.setdefault("info_items", {}).update({"Intensity factor": "Intensitätsfaktor", "Position": "Position",
+                                        "Target": "Ziel", "Hotspot angle": "Hotspot-Winkel",
+                                        "Falloff angle": "Abfallwinkel", "Name": "Name", "On": "Ein"})
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

@@ -33,6 +33,11 @@
 #include "DbMlineStyle.h"
 #include "DbTableStyle.h"
 #include "DbLayout.h"
+#include "DbImage.h"
+#include "DbTable.h"
+#include "DbUnderlay.h"
+#include "DbOle.h"
+#include "DbLight.h"
 
 #define ODDB_PLAIN_CLASS(Class, Parent, DxfName, RegisteredIndex, Concrete) \
   class DB_API Class : public Parent {                                      \

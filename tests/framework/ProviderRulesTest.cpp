@@ -19,8 +19,10 @@ TEST_F(ProviderRulesTest, ClassesWithoutARowFallBackToTheirNearestAttachedParent
     const char* info;
   };
   const Case cases[] = {
-      {OdDbWipeout::desc(), "CZqEntityPE", "CZqPrintObjectInfoPE"},
-      {OdDbRasterImage::desc(), "CZqEntityPE", "CZqPrintObjectInfoPE"},
+      // A wipeout has no row: the raster image's provider serves it.
+      {OdDbWipeout::desc(), "CZqRasterImagePE", "CZqPrintObjectInfoPE"},
+      // Its own provider, but its information provider is never attached.
+      {OdDbRasterImage::desc(), "CZqRasterImagePE", "CZqPrintObjectInfoPE"},
       // Its own provider, but no information provider: the generic one prints.
       {OdDbArcAlignedText::desc(), "CZqArcAlignedTextPE", "CZqPrintObjectInfoPE"},
       {OdDbLine::desc(), "CZqLinePE", ""},

@@ -401,7 +401,8 @@ constexpr ClassMapping kEntities[] = {
 const ClassMapping* entityMapping(const OdRxClass* cls) {
   for (const ClassMapping& m : kEntities)
     if (m.desc() == cls) return &m;
-  return blockEntityMapping(cls);
+  if (const ClassMapping* m = blockEntityMapping(cls)) return m;
+  return objectEntityMapping(cls);
 }
 
 }  // namespace OdDxf::mapping

@@ -477,9 +477,10 @@ void dimStyleFields(Fields<OdDbDimStyleTableRecord>& f);
 // properties only.
 void viewportFields(Fields<OdDbViewport>& f);
 const ClassMapping* entityMapping(const OdRxClass* cls);
-// Block references, tables, images, underlays, OLE frames and proxies
-// (DxfBlocks.cpp).
+// Block references, multiple inserts and proxies (DxfBlocks.cpp).
 const ClassMapping* blockEntityMapping(const OdRxClass* cls);
+// Raster images, tables, underlays, OLE frames and lights (DxfObjects.cpp).
+const ClassMapping* objectEntityMapping(const OdRxClass* cls);
 // Symbol table records, by class or by record type.
 const ClassMapping* recordMapping(const OdRxClass* cls);
 const ClassMapping* recordMapping(QByteArrayView type);
