@@ -820,6 +820,31 @@ DE.setdefault("errors", {}).update({
 DE.setdefault("info_items", {}).update({"Intensity factor": "Intensitätsfaktor", "Position": "Position",
                                         "Target": "Ziel", "Hotspot angle": "Hotspot-Winkel",
                                         "Falloff angle": "Abfallwinkel", "Name": "Name", "On": "Ein"})
+# Curves and meshes: 3D polylines, polyface, polygon and subdivision meshes, multilines, shapes.
+DE.setdefault("CZq3dPolylinePE", {}).update({"%1 sq. in. (%2 sq. ft.)": "%1 sq. in. (%2 sq. ft.)"})
+DE.setdefault("entity_types", {}).update({
+    "3D Polyline": "3D-Polylinie", "Polyface Mesh": "Vielflächennetz", "Polygon Mesh": "Polygonnetz", "Mesh": "Netz",
+    "Multiline": "Multilinie", "Shape": "Form"})
+DE.setdefault("property_types", {}).update({
+    "Vertex count": "Anzahl Scheitelpunkte", "Face count": "Anzahl Flächen", "Edge count": "Anzahl Kanten",
+    "M vertex count": "Anzahl Scheitelpunkte M", "N vertex count": "Anzahl Scheitelpunkte N",
+    "M closed": "In M geschlossen", "N closed": "In N geschlossen", "M density": "Dichte M", "N density": "Dichte N",
+    "Smoothness": "Glättung", "Style": "Stil", "Justify": "Ausrichtung", "Scale": "Skalierung",
+    "Name": "Name", "Height": "Höhe", "Rotation": "Drehung", "Width factor": "Breitenfaktor",
+    "Oblique angle": "Neigungswinkel"})
+DE.setdefault("property_values", {}).update({"Bezier": "Bezier", "Top": "Oben", "Zero": "Null", "Bottom": "Unten"})
+DE.setdefault("info_items", {}).update({
+    "Vertex count": "Anzahl Scheitelpunkte", "Face count": "Anzahl Flächen", "Edge count": "Anzahl Kanten",
+    "M vertex count": "Anzahl Scheitelpunkte M", "N vertex count": "Anzahl Scheitelpunkte N",
+    "M closed": "In M geschlossen", "N closed": "In N geschlossen", "M density": "Dichte M", "N density": "Dichte N",
+    "Surface area": "Oberfläche", "Smoothness": "Glättung", "Style": "Stil", "Justify": "Ausrichtung",
+    "Scale": "Skalierung", "Name": "Name", "at point": "bei Punkt", "Height": "Höhe", "Rotation": "Drehung",
+    "Width factor": "Breitenfaktor", "Oblique angle": "Neigungswinkel"})
+DE.setdefault("errors", {}).update({
+    "%1 must be a whole number": "%1 muss eine ganze Zahl sein",
+    "The justification cannot be changed: the offsets of the multiline style are not known.":
+        "Die Ausrichtung kann nicht geändert werden: die Abstände des Multilinienstils sind nicht bekannt."})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

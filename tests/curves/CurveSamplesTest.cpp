@@ -10,17 +10,25 @@ namespace {
 struct Kind {
   OdRxClass* (*cls)();
   const char* provider;
+  const char* category;
   const char* row;        // a row of the provider's own that every object has a value for
+  CZqVariant::_Type type; // the kind of that value
   const char* infoLabel;  // a line of its own in the listing
 };
 const Kind kKinds[] = {
-    {&OdDbArc::desc, "CZqArcPE", "Arc length", "Total angle"},
-    {&OdDbEllipse::desc, "CZqEllipsePE", "Major radius", "Radius ratio"},
-    {&OdDb2dPolyline::desc, "CZq2dPolylinePE", "Length", "Perimeter"},
-    {&OdDbSpline::desc, "CZqSplinePE_Prop", "Length", "Degree"},
-    {&OdDbFace::desc, "CZqFacePE", "Vertex X", "Location 3"},
-    {&OdDbSolid::desc, "CZqSolidPE", "Vertex X", "Location 3"},
-    {&OdDbTrace::desc, "CZqTracePE", "Vertex X", "Location 3"},
+    {&OdDbArc::desc, "CZqArcPE", "Geometry", "Arc length", CZqVariant::kVtDouble, "Total angle"},
+    {&OdDbEllipse::desc, "CZqEllipsePE", "Geometry", "Major radius", CZqVariant::kVtDouble, "Radius ratio"},
+    {&OdDb2dPolyline::desc, "CZq2dPolylinePE", "Geometry", "Length", CZqVariant::kVtDouble, "Perimeter"},
+    {&OdDbSpline::desc, "CZqSplinePE_Prop", "Geometry", "Length", CZqVariant::kVtDouble, "Degree"},
+    {&OdDbFace::desc, "CZqFacePE", "Geometry", "Vertex X", CZqVariant::kVtDouble, "Location 3"},
+    {&OdDbSolid::desc, "CZqSolidPE", "Geometry", "Vertex X", CZqVariant::kVtDouble, "Location 3"},
+    {&OdDbTrace::desc, "CZqTracePE", "Geometry", "Vertex X", CZqVariant::kVtDouble, "Location 3"},
+    {&OdDb3dPolyline::desc, "CZq3dPolylinePE", "Geometry", "Vertex Z", CZqVariant::kVtDouble, "Location 0"},
+    {&OdDbPolyFaceMesh::desc, "CZqPolyFaceMeshPE", "Misc", "Face count", CZqVariant::kVtInt32, "Surface area"},
+    {&OdDbPolygonMesh::desc, "CZqPolygonMeshPE", "Geometry", "Vertex Z", CZqVariant::kVtDouble, "Surface area"},
+    {&OdDbSubDMesh::desc, "CZqSubDMeshPE", "Geometry", "Smoothness", CZqVariant::kVtInt32, "Edge count"},
+    {&OdDbMline::desc, "CZqMlinePE", "Geometry", "Vertex X", CZqVariant::kVtDouble, "Location 0"},
+    {&OdDbShape::desc, "CZqShapePE", "Misc", "Height", CZqVariant::kVtDouble, "Oblique angle"},
 };
 
 std::vector<std::string> samples() {
@@ -46,7 +54,7 @@ TEST_P(CurveSamplesTest, EveryObjectListsWithItsOwnRows) {
         SCOPED_TRACE(std::string(k.provider) + " " + id.getHandle().ascii().toStdString());
         ASSERT_NE(zqProviderFor(obj.get()), nullptr);
         EXPECT_EQ(zqProviderFor(obj.get())->isA()->name().toStdString(), k.provider);
-        EXPECT_EQ(get(id, "Geometry", k.row).GetType(), CZqVariant::kVtDouble);
+        EXPECT_EQ(get(id, k.category, k.row).GetType(), k.type);
         EXPECT_NE(infoLine(info(id), k.infoLabel), nullptr);
       }
     }

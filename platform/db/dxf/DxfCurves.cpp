@@ -459,3 +459,175 @@ void polyline2dFields(Fields<OdDb2dPolyline>& f) {
 }
 
 }  // namespace OdDxf::mapping
+
+// ---------------------------------------------------------------------------
+// MLINE: 2 the style's name (340 its handle), 40 scale, 70 justification,
+// 71 flags, 72/73 the vertex and element counts, 10 the start point, 210
+// the normal; then per vertex 11 its position, 12 the segment direction,
+// 13 the miter, and per element 74 + its 41 parameters, 75 + its 42 area
+// fill parameters.
+
+namespace OdDxf::mapping {
+
+namespace {
+
+bool isMlineVertexCode(int c) {
+  switch (c) {
+    case 11: case 21: case 31: case 12: case 22: case 32: case 13: case 23: case 33: case 74: case 41: case 75: case 42:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool sameVertices(const OdDbMline* a, const OdDbMline* b) {
+  if (a->numVertices() != b->numVertices()) return false;
+  auto sameList = [](const OdArray<OdArray<double>>& x, const OdArray<OdArray<double>>& y) {
+    if (x.length() != y.length()) return false;
+    for (unsigned k = 0; k < x.length(); ++k)
+      if (x[k].length() != y[k].length() || !std::equal(x[k].begin(), x[k].end(), y[k].begin(), [](double p, double q) { return same(p, q); }))
+        return false;
+    return true;
+  };
+  for (unsigned i = 0; i < a->numVertices(); ++i) {
+    const OdDbMline::Vertex &u = a->vertexData(i), &v = b->vertexData(i);
+    if (!same(u.position, v.position) || !same(u.direction, v.direction) || !same(u.miter, v.miter) ||
+        !sameList(u.params, v.params) || !sameList(u.fillParams, v.fillParams))
+      return false;
+  }
+  return true;
+}
+
+// The element offsets (49) of the MLINESTYLE record with this handle.
+OdArray<double> styleOffsets(const Context& ctx, quint64 handle) {
+  OdArray<double> out;
+  if (!handle || !ctx.file) return out;
+  for (const Section& s : ctx.file->sections()) {
+    if (s.name != "OBJECTS") continue;
+    for (const Record& r : s.records) {
+      if (!r.isType("MLINESTYLE") || r.handle() != handle) continue;
+      for (int i = 1; i < r.size(); ++i)
+        if (r.at(i).code() == 49) out.append(r.at(i).real());
+      return out;
+    }
+  }
+  return out;
+}
+
+}  // namespace
+
+void mlineFields(Fields<OdDbMline>& f) {
+  using M = OdDbMline;
+  RecordIO& io = f.io();
+  M* ml = f.object();
+  Record& r = io.record();
+  f.subclass("AcDbMline");
+  if (io.reading()) {
+    f.apply(2, [&] { ml->setStyleName(OdString(io.string(2))); });
+    const OdArray<double> offsets = styleOffsets(io.ctx(), io.handle(340));
+    const qint64 elements = io.integer(73, 0);
+    if (qint64(offsets.length()) == elements) ml->setStyleOffsets(offsets);
+    OdArray<M::Vertex> vertices;
+    const int first = io.find(11);
+    for (int i = first; i >= 0 && i < r.size() && isMlineVertexCode(r.at(i).code());) {
+      if (r.at(i).code() != 11) {
+        ++i;
+        continue;
+      }
+      M::Vertex v;
+      auto point = [&](int code) {
+        OdGePoint3d p(io.realAt(i), 0, 0);
+        if (i + 1 < r.size() && r.at(i + 1).code() == code + 10) p.y = io.realAt(++i);
+        if (i + 1 < r.size() && r.at(i + 1).code() == code + 20) p.z = io.realAt(++i);
+        ++i;
+        return p;
+      };
+      v.position = point(11);
+      if (i < r.size() && r.at(i).code() == 12) v.direction = point(12).asVector();
+      if (i < r.size() && r.at(i).code() == 13) v.miter = point(13).asVector();
+      while (i < r.size() && r.at(i).code() == 74) {
+        OdArray<double> params, fill;
+        for (qint64 n = io.integerAt(i++); n > 0 && i < r.size() && r.at(i).code() == 41; --n) params.append(io.realAt(i++));
+        if (i < r.size() && r.at(i).code() == 75)
+          for (qint64 n = io.integerAt(i++); n > 0 && i < r.size() && r.at(i).code() == 42; --n) fill.append(io.realAt(i++));
+        v.params.append(params);
+        v.fillParams.append(fill);
+      }
+      vertices.append(v);
+    }
+    const qint64 just = io.integer(70, 0);
+    const OdGeVector3d n = readNormal(io, 210);
+    const double scale = io.real(40, 1.0);
+    f.apply(40, [&] {
+      ml->setData(just == 1 ? Mline::kZero : just == 2 ? Mline::kBottom : Mline::kTop, scale, int(io.integer(71, 1)), n, vertices);
+    });
+    return;
+  }
+  const M* before = f.before();
+  f.string(2, &M::styleName, &M::setStyleName);
+  io.skip(340);
+  f.real(40, &M::scale, [](M*, double) {});
+  f.integer(70, [](const M* m) { return int(m->justification()); }, [](M*, int) {});
+  f.integer(71, &M::flags, [](M*, int) {});
+  f.integer(72, &M::numVertices, [](M*, unsigned) {});
+  f.integer(73, &M::numElements, [](M*, unsigned) {});
+  f.point(10, [](const M* m) { return m->numVertices() ? m->vertexAt(0) : OdGePoint3d(); }, [](M*, const OdGePoint3d&) {});
+  f.normal(210, &M::normal, [](M*, const OdGeVector3d&) {});
+  if (sameVertices(ml, before)) return;
+  // The vertices are written anew.
+  const int first = io.find(11);
+  if (first >= 0) {
+    int last = first;
+    while (last + 1 < r.size() && isMlineVertexCode(r.at(last + 1).code()) && r.at(last + 1).code() != 1001) ++last;
+    io.removeAt(first, last - first + 1);
+    io.moveTo(first);
+  }
+  auto putPoint = [&](int code, const OdGePoint3d& p) {
+    r.setReal(io.insertTag(code), p.x);
+    r.setReal(io.insertTag(code + 10), p.y);
+    r.setReal(io.insertTag(code + 20), p.z);
+  };
+  for (unsigned i = 0; i < ml->numVertices(); ++i) {
+    const M::Vertex& v = ml->vertexData(i);
+    putPoint(11, v.position);
+    putPoint(12, OdGePoint3d::kOrigin + v.direction);
+    putPoint(13, OdGePoint3d::kOrigin + v.miter);
+    for (unsigned k = 0; k < v.params.length(); ++k) {
+      r.setInteger(io.insertTag(74), v.params[k].length());
+      for (double p : v.params[k]) r.setReal(io.insertTag(41), p);
+      const OdArray<double> none;
+      const OdArray<double>& fill = k < v.fillParams.length() ? v.fillParams[k] : none;
+      r.setInteger(io.insertTag(75), fill.length());
+      for (double p : fill) r.setReal(io.insertTag(42), p);
+    }
+  }
+}
+
+}  // namespace OdDxf::mapping
+
+// ---------------------------------------------------------------------------
+// SHAPE: 39 thickness, 10 the insertion point (object coordinates), 40 the
+// size, 2 the shape's name, 50 rotation, 41 width factor and 51 oblique
+// angle (degrees), 210 the normal.
+
+namespace OdDxf::mapping {
+
+void shapeFields(Fields<OdDbShape>& f) {
+  using S = OdDbShape;
+  f.subclass("AcDbShape");
+  f.real(39, &S::thickness, &S::setThickness, 0.0, Opt::Optional);
+  f.ocsPoint(10, 210, &S::position, &S::setPosition, &S::normal);
+  f.real(40, &S::size, &S::setSize, 1.0);
+  f.string(2, &S::name, &S::setName);
+  auto degrees = [&](int code, double (S::*get)() const, void (S::*set)(double)) {
+    f.real(
+        code, [get](const S* s) { return qRadiansToDegrees((s->*get)()); },
+        [set](S* s, double deg) { (s->*set)(qDegreesToRadians(deg)); }, 0.0, Opt::Optional);
+  };
+  degrees(50, &S::rotation, &S::setRotation);
+  f.real(41, &S::widthFactor, &S::setWidthFactor, 1.0, Opt::Optional);
+  degrees(51, &S::oblique, &S::setOblique);
+  f.normal(210, &S::normal, &S::setNormal);
+}
+
+}  // namespace OdDxf::mapping

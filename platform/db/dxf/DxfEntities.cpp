@@ -353,6 +353,14 @@ constexpr ClassMapping kEntities[] = {
     {"SPLINE",     &OdDbSpline::desc,      1012, &fieldsOf<OdDbSpline, splineFields>,               false},
     {"LWPOLYLINE", &OdDbPolyline::desc,    1014, &fieldsOf<OdDbPolyline, lwpolylineFields>,         false},
     {"POLYLINE",   &OdDb2dPolyline::desc,  0,    &fieldsOf<OdDb2dPolyline, polyline2dFields>,       true},
+    {"POLYLINE",   &OdDb3dPolyline::desc,  0,    &fieldsOf<OdDb3dPolyline, polyline3dFields>,       true},
+    {"POLYLINE",   &OdDbPolyFaceMesh::desc, 0,   &fieldsOf<OdDbPolyFaceMesh, polyFaceMeshFields>,   true},
+    {"POLYLINE",   &OdDbPolygonMesh::desc, 0,    &fieldsOf<OdDbPolygonMesh, polygonMeshFields>,     true},
+    // Subdivision meshes: only the smoothness level is written; new ones cannot be.
+    {"MESH",       &OdDbSubDMesh::desc,    0,    &fieldsOf<OdDbSubDMesh, subDMeshFields>,           false, true},
+    // Multilines: new ones cannot be written (they need a style record).
+    {"MLINE",      &OdDbMline::desc,       1012, &fieldsOf<OdDbMline, mlineFields>,                 false, true},
+    {"SHAPE",      &OdDbShape::desc,       0,    &fieldsOf<OdDbShape, shapeFields>,                 false},
     {"POINT",      &OdDbPoint::desc,       0,    &fieldsOf<OdDbPoint, pointFields>,                 false},
     {"3DFACE",     &OdDbFace::desc,        0,    &fieldsOf<OdDbFace, faceFields>,                   false},
     {"SOLID",      &OdDbSolid::desc,       0,    &fieldsOf<OdDbSolid, solidFields>,                 false},

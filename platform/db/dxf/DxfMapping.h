@@ -39,6 +39,13 @@ class OdDbEllipse;
 class OdDbSpline;
 class OdDbPolyline;
 class OdDb2dPolyline;
+class OdDb3dPolyline;
+class OdDb3dPolylineVertex;
+class OdDbPolyFaceMesh;
+class OdDbPolygonMesh;
+class OdDbSubDMesh;
+class OdDbMline;
+class OdDbShape;
 class OdDbPoint;
 class OdDbRay;
 class OdDbXline;
@@ -431,6 +438,15 @@ void splineFields(Fields<OdDbSpline>& f);
 void lwpolylineFields(Fields<OdDbPolyline>& f);
 void polyline2dFields(Fields<OdDb2dPolyline>& f);
 void pointFields(Fields<OdDbPoint>& f);
+// 3D polylines and meshes (DxfMeshes.cpp).
+void polyline3dFields(Fields<OdDb3dPolyline>& f);
+void vertex3dFields(Fields<OdDb3dPolylineVertex>& f);
+void polyFaceMeshFields(Fields<OdDbPolyFaceMesh>& f);
+void polygonMeshFields(Fields<OdDbPolygonMesh>& f);
+void subDMeshFields(Fields<OdDbSubDMesh>& f);
+// Multilines (DxfCurves.cpp).
+void mlineFields(Fields<OdDbMline>& f);
+void shapeFields(Fields<OdDbShape>& f);
 // Four-cornered entities (DxfFaces.cpp).
 void faceFields(Fields<OdDbFace>& f);
 void solidFields(Fields<OdDbSolid>& f);
