@@ -457,6 +457,9 @@ void loftedSurfaceFields(Fields<OdDbLoftedSurface>& f);
 // The nine kinds of dimension, each with the fields every dimension has
 // (DxfDimension.cpp).
 void rotatedDimensionFields(Fields<OdDbDimension>& f);
+// After the entities are read: each dimension's DIMASSOC object, found by
+// the handle among its reactors (the OBJECTS section's record is only read).
+void readDimensionAssociations(Context& ctx, const std::vector<std::vector<OdDbStub*>>& owners);
 void alignedDimensionFields(Fields<OdDbDimension>& f);
 void twoLineAngularDimensionFields(Fields<OdDbDimension>& f);
 void threePointAngularDimensionFields(Fields<OdDbDimension>& f);
