@@ -90,6 +90,12 @@ class DB_API OdDbDimension : public OdDbEntity {
   void setDimBlockName(const OdString& name);
   bool needsBlockRegeneration() const { assertReadEnabled(); return m_regenerate; }
   void setNeedsBlockRegeneration(bool on);
+  // Draws the dimension's own block anew from its defining points and
+  // variables (dimension line, extension lines, arrowheads, the text as
+  // multiline text) and clears the flag. False, and nothing changed, for a
+  // kind it cannot draw (angular, arc length, jogged radial, ordinate), a
+  // block shared with other dimensions, or points it cannot measure.
+  bool recomputeDimBlock();
 
   // Whether the dimension is associated with the geometry it measures (it
   // has a DIMASSOC object among its reactors).

@@ -6,11 +6,14 @@
 // Two fields are code below the tables:
 //   42  the measurement the file keeps: read as it is (the points then may
 //       disagree with it), written when an edit changed it;
-//   2   the block that draws the dimension: an edited dimension no longer
+//   2   the block that draws the dimension: before writing, an edited
+//       aligned, rotated, radial or diametric dimension draws its own block
+//       anew (regenerateDimensionBlocks); another edited kind no longer
 //       matches its block, so the reference is dropped and a reader draws
 //       the dimension anew from its data, as DXF allows for dimensions
 //       written without a block. The block itself stays in the file.
 #include "DbPlainClasses.h"
+#include "DbSymbolTable.h"
 #include "DxfFields.h"
 #include "DxfFile.h"
 
@@ -241,6 +244,28 @@ std::vector<quint64> reactorsOf(const Record& r) {
 }
 
 }  // namespace
+
+void regenerateDimensionBlocks(OdDbDatabase* db) {
+  OdDbObjectPtr t = db->getBlockTableId().openObject();
+  auto* table = OdDbSymbolTable::cast(t).get();
+  if (!table) return;
+  for (const OdDbObjectId& b : table->recordIds()) {
+    OdDbObjectPtr block = b.openObject();
+    auto* btr = OdDbBlockTableRecord::cast(block).get();
+    if (!btr) continue;
+    for (const OdDbObjectId& e : btr->entityIds()) {
+      OdDbObjectPtr o = e.openObject();
+      auto* dim = OdDbDimension::cast(o).get();
+      if (!dim || !dim->isModified() || !dim->needsBlockRegeneration()) continue;
+      o = e.openObject(OdDb::kForWrite);
+      try {
+        OdDbDimension::cast(o)->recomputeDimBlock();
+      } catch (const OdError&) {
+        // The flag stays: the block reference is left out instead.
+      }
+    }
+  }
+}
 
 void readDimensionAssociations(Context& ctx, const std::vector<std::vector<OdDbStub*>>& owners) {
   const File& file = *ctx.file;
