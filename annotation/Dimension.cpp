@@ -995,8 +995,50 @@ void CZqDimensionInfo::printHead(const OdDbObject* object, CZqPrintInfoContext* 
                        kind ? CZqString(QCoreApplication::translate("info_values", kind)) : CZqString());
 }
 
+namespace {
+
+// The object snaps of an association, by their numbers.
+const char* const kOsnapWords[] = {
+    QT_TRANSLATE_NOOP("info_values", "no snap"),      QT_TRANSLATE_NOOP("info_values", "end point"),
+    QT_TRANSLATE_NOOP("info_values", "midpoint"),     QT_TRANSLATE_NOOP("info_values", "center"),
+    QT_TRANSLATE_NOOP("info_values", "node"),         QT_TRANSLATE_NOOP("info_values", "quadrant"),
+    QT_TRANSLATE_NOOP("info_values", "intersection"), QT_TRANSLATE_NOOP("info_values", "insertion point"),
+    QT_TRANSLATE_NOOP("info_values", "perpendicular"), QT_TRANSLATE_NOOP("info_values", "tangent"),
+    QT_TRANSLATE_NOOP("info_values", "nearest point"), QT_TRANSLATE_NOOP("info_values", "apparent intersection"),
+    QT_TRANSLATE_NOOP("info_values", "parallel"),     QT_TRANSLATE_NOOP("info_values", "start point"),
+};
+const char* const kAttachedPoints[] = {
+    QT_TRANSLATE_NOOP("info_items", "1st defining point attached to"),
+    QT_TRANSLATE_NOOP("info_items", "2nd defining point attached to"),
+    QT_TRANSLATE_NOOP("info_items", "3rd defining point attached to"),
+    QT_TRANSLATE_NOOP("info_items", "4th defining point attached to"),
+};
+
+// Whether the dimension follows geometry, and per attached defining point
+// the entity and the snap it follows ("end point of LINE 1E9").
+void printAssociation(const OdDbDimension* dim, CZqPrintInfoContext* context) {
+  const OdDbDimAssoc& a = dim->association();
+  context->PrintString(QCoreApplication::translate("info_items", "association"),
+                       CZqString(QCoreApplication::translate("info_values", a.handle ? "associative" : "not associative")));
+  for (const OdDbDimAssocPoint& p : a.points) {
+    if (p.point < 0 || p.point > 3) continue;
+    const QString snap = p.osnap >= 0 && p.osnap < int(std::size(kOsnapWords))
+                             ? QCoreApplication::translate("info_values", kOsnapWords[p.osnap])
+                             : QString::number(p.osnap);
+    OdDbObjectPtr target = p.object.isNull() ? OdDbObjectPtr() : p.object.openObject();
+    const QString handle = QString::number(p.handle, 16).toUpper();
+    const QString text =
+        target ? QCoreApplication::translate("info_values", "%1 of %2 %3").arg(snap, target->isA()->dxfName().qstring(), handle)
+               : QCoreApplication::translate("info_values", "%1 of %2, which is not in the drawing").arg(snap, handle);
+    context->PrintString(QCoreApplication::translate("info_items", kAttachedPoints[p.point]), CZqString(text));
+  }
+}
+
+}  // namespace
+
 void CZqDimensionInfo::printTail(const OdDbObject* object, CZqPrintInfoContext* context) {
   const D* dim = ZqReadable<D>(object);
+  printAssociation(dim, context);
   double measured = 0;
   if (!dim->measure(measured))
     context->PrintString(QCoreApplication::translate("info_items", "measurement"),

@@ -844,6 +844,23 @@ DE.setdefault("errors", {}).update({
     "%1 must be a whole number": "%1 muss eine ganze Zahl sein",
     "The justification cannot be changed: the offsets of the multiline style are not known.":
         "Die Ausrichtung kann nicht geändert werden: die Abstände des Multilinienstils sind nicht bekannt."})
+# Dimensions: association with geometry
+DE.setdefault("info_items", {}).update({
+    "association": "Assoziativität",
+    "1st defining point attached to": "1. Definitionspunkt gebunden an",
+    "2nd defining point attached to": "2. Definitionspunkt gebunden an",
+    "3rd defining point attached to": "3. Definitionspunkt gebunden an",
+    "4th defining point attached to": "4. Definitionspunkt gebunden an",
+})
+DE.setdefault("info_values", {}).update({
+    "associative": "assoziativ", "not associative": "nicht assoziativ",
+    "no snap": "kein Objektfang", "end point": "Endpunkt", "midpoint": "Mittelpunkt", "center": "Zentrum",
+    "node": "Knoten", "quadrant": "Quadrant", "intersection": "Schnittpunkt", "insertion point": "Einfügepunkt",
+    "perpendicular": "Lotpunkt", "tangent": "Tangente", "nearest point": "Nächster Punkt",
+    "apparent intersection": "Angenommener Schnittpunkt", "parallel": "Parallele", "start point": "Startpunkt",
+    "%1 of %2 %3": "%1 von %2 %3",
+    "%1 of %2, which is not in the drawing": "%1 von %2, das nicht in der Zeichnung ist",
+})
 
 for context in tree.getroot().iter("context"):
     name = context.find("name").text

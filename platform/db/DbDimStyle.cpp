@@ -317,7 +317,7 @@ std::vector<Entry> get(const OdDbObject* obj) {
 bool find(const OdDbObject* obj, Id id, Value* value) {
   const int code = info(id).code;
   if (!obj || !code) return false;
-  const OdResBufPtr chain = obj->xData(kAcad);
+  const OdResBuf* chain = obj->xDataChain(kAcad);
   bool inList = false;
   for (const OdResBuf* p = chain ? chain->next() : nullptr; p; p = p->next()) {
     if (!inList) {

@@ -197,6 +197,12 @@ void OdDbDimension::setAssociative(bool on) {
   m_associative = on;
 }
 
+void OdDbDimension::setAssociation(const OdDbDimAssoc& a) {
+  assertWriteEnabled();
+  m_association = a;
+  m_associative = a.handle != 0;
+}
+
 bool OdDbDimension::measure(double&) const { return false; }
 
 double OdDbDimension::measurement() const {
@@ -250,6 +256,7 @@ void OdDbDimension::copyFrom(const OdRxObject* source) {
   m_flags = d->m_flags;
   m_regenerate = d->m_regenerate;
   m_associative = d->m_associative;
+  m_association = d->m_association;
   for (int i = 0; i < 6; ++i) {
     m_points[i] = d->m_points[i];
     m_values[i] = d->m_values[i];

@@ -5,6 +5,23 @@
 // the nine kinds with their defining points and measurements.
 #include "DbDimStyle.h"
 
+#include <vector>
+
+// What a dimension is attached to, as its DIMASSOC object says: per
+// defining point the entity it follows and how (the object snap).
+struct OdDbDimAssocPoint {
+  int point = 0;       // 0 the first defining point, 1 the second, 2 the third, 3 the fourth
+  int osnap = 0;       // 0 none, 1 end point, 2 midpoint, 3 center, 4 node, 5 quadrant, 6 intersection,
+                       // 7 insertion, 8 perpendicular, 9 tangent, 10 nearest, 11 apparent
+                       // intersection, 12 parallel, 13 start point
+  OdDbObjectId object; // null when the entity is not in this drawing
+  quint64 handle = 0;  // the entity's handle as the file names it
+};
+struct OdDbDimAssoc {
+  quint64 handle = 0;  // the DIMASSOC object's; 0: the dimension has none
+  std::vector<OdDbDimAssocPoint> points;
+};
+
 class DB_API OdDbDimension : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbDimension);
 
@@ -73,11 +90,22 @@ class DB_API OdDbDimension : public OdDbEntity {
   void setDimBlockName(const OdString& name);
   bool needsBlockRegeneration() const { assertReadEnabled(); return m_regenerate; }
   void setNeedsBlockRegeneration(bool on);
+  // Draws the dimension's own block anew from its defining points and
+  // variables (dimension line, extension lines, arrowheads, the text as
+  // multiline text) and clears the flag. False, and nothing changed, for a
+  // kind it cannot draw (angular, arc length, jogged radial, ordinate), a
+  // block shared with other dimensions, or points it cannot measure.
+  bool recomputeDimBlock();
 
   // Whether the dimension is associated with the geometry it measures (it
   // has a DIMASSOC object among its reactors).
   bool isAssociative() const { assertReadEnabled(); return m_associative; }
   void setAssociative(bool on);
+  // The association as read from the drawing's DIMASSOC object (the object
+  // itself stays in the file as it is). An edit of a defining point keeps
+  // it: the association names the geometry, not coordinates.
+  const OdDbDimAssoc& association() const { assertReadEnabled(); return m_association; }
+  void setAssociation(const OdDbDimAssoc& a);
 
   // The measurement recomputed from the defining points: false when they
   // are degenerate (a zero length, points on one line for an angle), the
@@ -118,6 +146,7 @@ class DB_API OdDbDimension : public OdDbEntity {
   OdGeVector3d m_normal{0, 0, 1};
   int m_attachment = 5, m_spacingStyle = 1, m_flags = 0;
   bool m_regenerate = false, m_associative = false;
+  OdDbDimAssoc m_association;
   OdGePoint3d m_points[6];
   double m_values[6] = {0, 0, 0, 0, 0, 0};
 };

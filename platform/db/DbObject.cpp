@@ -58,6 +58,13 @@ OdResBufPtr OdDbObject::xData(const OdString& regappName) const {
   return {};
 }
 
+const OdResBuf* OdDbObject::xDataChain(const OdString& regappName) const {
+  assertReadEnabled();
+  for (const OdResBufPtr& chain : m_xdata)
+    if (chain->getString().iCompare(regappName) == 0) return chain.get();
+  return nullptr;
+}
+
 OdArray<OdString> OdDbObject::xDataApps() const {
   OdArray<OdString> out;
   for (const OdResBufPtr& chain : m_xdata) out.append(chain->getString());

@@ -51,6 +51,9 @@ class DB_API OdDbObject : public OdRxObject {
   OdResBufPtr xData(const OdString& regappName = OdString()) const;
   void setXData(const OdResBuf* xdata);
   OdArray<OdString> xDataApps() const;
+  // The application's chain as the object keeps it (no copy; valid until
+  // the object's extended data changes), or null.
+  const OdResBuf* xDataChain(const OdString& regappName) const;
 
   // Copies the data that the class models from another object of the same
   // class (not id, owner or extended data).

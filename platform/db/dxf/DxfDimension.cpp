@@ -6,12 +6,18 @@
 // Two fields are code below the tables:
 //   42  the measurement the file keeps: read as it is (the points then may
 //       disagree with it), written when an edit changed it;
-//   2   the block that draws the dimension: an edited dimension no longer
+//   2   the block that draws the dimension: before writing, an edited
+//       aligned, rotated, radial or diametric dimension draws its own block
+//       anew (regenerateDimensionBlocks); another edited kind no longer
 //       matches its block, so the reference is dropped and a reader draws
 //       the dimension anew from its data, as DXF allows for dimensions
 //       written without a block. The block itself stays in the file.
 #include "DbPlainClasses.h"
+#include "DbSymbolTable.h"
 #include "DxfFields.h"
+#include "DxfFile.h"
+
+#include <QHash>
 
 namespace OdDxf::mapping {
 namespace {
@@ -167,5 +173,132 @@ void radialDimensionFields(Fields<N>& f) { kindFields(f, "AcDbRadialDimension", 
 void ordinateDimensionFields(Fields<N>& f) { kindFields(f, "AcDbOrdinateDimension", kOrdinateRows); }
 void arcDimensionFields(Fields<N>& f) { kindFields(f, "AcDbArcDimension", kArcRows); }
 void largeRadialDimensionFields(Fields<N>& f) { kindFields(f, "AcDbRadialDimensionLarge", kLargeRadialRows); }
+
+namespace {
+
+// A DIMASSOC record: after its AcDbDimAssoc marker, 330 the dimension, 90
+// the defining points that are attached (bit 1 the first, 2 the second, 4
+// the third, 8 the fourth), then one AcDbOsnapPointRef group (1) per
+// attached point in that order: 72 the object snap, 331 the entities from
+// the outermost reference to the one the point follows, 73, 91, 40, the
+// snap point, 75.
+bool parseDimAssoc(const Record& r, quint64 dimension, OdDbDatabase* db, OdDbDimAssoc& out) {
+  int i = 0;
+  while (i < r.size() && !(r.at(i).code() == 100 && r.at(i).trimmed() == "AcDbDimAssoc")) ++i;
+  if (i >= r.size()) return false;
+  quint64 owner = 0;
+  int attached = 0;
+  std::vector<int> points;
+  OdDbDimAssocPoint* ref = nullptr;
+  for (++i; i < r.size(); ++i) {
+    const Tag& t = r.at(i);
+    switch (t.code()) {
+      case 330:
+        if (!owner) owner = t.handle();
+        break;
+      case 90:
+        if (!ref) {
+          attached = int(t.integer());
+          for (int bit = 0; bit < 4; ++bit)
+            if (attached & (1 << bit)) points.push_back(bit);
+        }
+        break;
+      case 1:
+        if (t.trimmed() != "AcDbOsnapPointRef" || out.points.size() >= points.size()) {
+          ref = nullptr;
+          break;
+        }
+        out.points.push_back({points[out.points.size()], 0, OdDbObjectId(), 0});
+        ref = &out.points.back();
+        break;
+      case 72:
+        if (ref) ref->osnap = int(t.integer());
+        break;
+      case 331:
+        // The last one is the entity itself (the ones before it are the
+        // block references it is nested in).
+        if (ref) {
+          ref->handle = t.handle();
+          ref->object = ref->handle ? db->getOdDbObjectId(OdDbHandle(ref->handle)) : OdDbObjectId();
+        }
+        break;
+      default: break;
+    }
+  }
+  if (owner != dimension) return false;
+  out.handle = r.handle();
+  return out.handle != 0;
+}
+
+// The handles a record lists as its reactors (102 {ACAD_REACTORS ... }).
+std::vector<quint64> reactorsOf(const Record& r) {
+  std::vector<quint64> out;
+  bool in = false;
+  for (int i = 1; i < r.size(); ++i) {  // after the record's type
+    const Tag& t = r.at(i);
+    if (t.code() == 102) in = t.trimmed() == "{ACAD_REACTORS";
+    else if (in && t.code() == 330) out.push_back(t.handle());
+    else if (t.code() == 100) break;
+  }
+  return out;
+}
+
+}  // namespace
+
+void regenerateDimensionBlocks(OdDbDatabase* db) {
+  OdDbObjectPtr t = db->getBlockTableId().openObject();
+  auto* table = OdDbSymbolTable::cast(t).get();
+  if (!table) return;
+  for (const OdDbObjectId& b : table->recordIds()) {
+    OdDbObjectPtr block = b.openObject();
+    auto* btr = OdDbBlockTableRecord::cast(block).get();
+    if (!btr) continue;
+    for (const OdDbObjectId& e : btr->entityIds()) {
+      OdDbObjectPtr o = e.openObject();
+      auto* dim = OdDbDimension::cast(o).get();
+      if (!dim || !dim->isModified() || !dim->needsBlockRegeneration()) continue;
+      o = e.openObject(OdDb::kForWrite);
+      try {
+        OdDbDimension::cast(o)->recomputeDimBlock();
+      } catch (const OdError&) {
+        // The flag stays: the block reference is left out instead.
+      }
+    }
+  }
+}
+
+void readDimensionAssociations(Context& ctx, const std::vector<std::vector<OdDbStub*>>& owners) {
+  const File& file = *ctx.file;
+  const Section* objects = file.section("OBJECTS");
+  if (!objects) return;
+  QHash<quint64, const Record*> assocs;
+  for (const Record& r : objects->records)
+    if (r.isType("DIMASSOC"))
+      if (const quint64 h = r.handle()) assocs.insert(h, &r);
+  if (assocs.isEmpty()) return;
+  for (int s = 0; s < file.sections().size() && size_t(s) < owners.size(); ++s) {
+    const Section& sec = file.sections()[s];
+    for (int i = 0; i < sec.records.size() && size_t(i) < owners[size_t(s)].size(); ++i) {
+      const Record& r = sec.records[i];
+      if (!r.isType("DIMENSION") && !r.isType("ARC_DIMENSION") && !r.isType("LARGE_RADIAL_DIMENSION")) continue;
+      OdDbStub* stub = owners[size_t(s)][size_t(i)];
+      if (!stub || !stub->object) continue;
+      // The dimension names its DIMASSOC among its reactors; the object
+      // names the dimension back.
+      for (const quint64 h : reactorsOf(r)) {
+        const Record* assoc = assocs.value(h);
+        OdDbDimAssoc a;
+        if (!assoc || !parseDimAssoc(*assoc, r.handle(), ctx.db, a)) continue;
+        OdDbObjectPtr o = OdDbObjectId(stub).openObject(OdDb::kForWrite);
+        auto* dim = OdDbDimension::cast(o).get();
+        if (!dim) break;
+        const bool modified = dim->isModified();
+        dim->setAssociation(a);
+        dim->setModified(modified);
+        break;
+      }
+    }
+  }
+}
 
 }  // namespace OdDxf::mapping

@@ -564,6 +564,7 @@ void Reader::run() {
                      .arg(m_ctx.where(section(s).head, 0)));
     readEntities(s, 0, section(s).records.size(), m_modelSpace, true);
   }
+  readDimensionAssociations(m_ctx, m_d.owners);
   readHeader(m_ctx);
   m_ctx.missingRecord = nullptr;
   for (int s = 0; s < f.sections().size(); ++s)

@@ -643,6 +643,7 @@ bool writeImpl(OdDbDatabase* db, QByteArray& out, QString& error) {
     error = QStringLiteral("no drawing to write");
     return false;
   }
+  regenerateDimensionBlocks(db);
   OdSmartPtr<DrawingData> kept(drawingData(db));
   if (!kept) kept = newDrawingData(db);
   // The records are brought up to date in a copy: a refusal leaves the kept

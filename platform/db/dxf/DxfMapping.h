@@ -474,6 +474,12 @@ void loftedSurfaceFields(Fields<OdDbLoftedSurface>& f);
 // The nine kinds of dimension, each with the fields every dimension has
 // (DxfDimension.cpp).
 void rotatedDimensionFields(Fields<OdDbDimension>& f);
+// After the entities are read: each dimension's DIMASSOC object, found by
+// the handle among its reactors (the OBJECTS section's record is only read).
+void readDimensionAssociations(Context& ctx, const std::vector<std::vector<OdDbStub*>>& owners);
+// Before writing: every dimension edited since it was read draws its own
+// block anew where it can (OdDbDimension::recomputeDimBlock).
+void regenerateDimensionBlocks(OdDbDatabase* db);
 void alignedDimensionFields(Fields<OdDbDimension>& f);
 void twoLineAngularDimensionFields(Fields<OdDbDimension>& f);
 void threePointAngularDimensionFields(Fields<OdDbDimension>& f);
