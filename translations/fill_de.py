@@ -862,6 +862,14 @@ DE.setdefault("info_values", {}).update({
     "%1 of %2, which is not in the drawing": "%1 von %2, das nicht in der Zeichnung ist",
 })
 
+# Values older releases cannot hold
+DE.setdefault("errors", {}).update({
+    "Dimension overrides need a drawing saved as %1 or later; this drawing is %2.":
+        "Bemaßungsüberschreibungen brauchen eine als %1 oder neuer gespeicherte Zeichnung; diese Zeichnung ist %2.",
+    "Inspection data needs a drawing saved as %1 or later; this drawing is %2.":
+        "Prüfdaten brauchen eine als %1 oder neuer gespeicherte Zeichnung; diese Zeichnung ist %2.",
+})
+
 for context in tree.getroot().iter("context"):
     name = context.find("name").text
     for message in context.iter("message"):

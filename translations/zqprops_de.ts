@@ -8,6 +8,13 @@
     </message>
 </context>
 <context>
+    <name>CZq3dPolylinePE</name>
+    <message>
+        <source>%1 sq. in. (%2 sq. ft.)</source>
+        <translation>%1 sq. in. (%2 sq. ft.)</translation>
+    </message>
+</context>
+<context>
     <name>CZqArcPE</name>
     <message>
         <source>%1 sq. in. (%2 sq. ft.)</source>
@@ -186,8 +193,8 @@
         <translation>Space nimmt model, paper oder all, nicht "%1".</translation>
     </message>
     <message>
-        <source>"%1" names no kind of record: use layers, linetypes, textstyles or dimstyles.</source>
-        <translation>"%1" ist keine Art von Einträgen: layers, linetypes, textstyles oder dimstyles verwenden.</translation>
+        <source>"%1" names no kind of record: use layers, linetypes, textstyles, dimstyles, views, vports, groups, mlinestyles or tablestyles.</source>
+        <translation>"%1" ist keine Art von Einträgen: layers, linetypes, textstyles, dimstyles, views, vports, groups, mlinestyles oder tablestyles verwenden.</translation>
     </message>
 </context>
 <context>
@@ -534,6 +541,74 @@
     <message>
         <source>Viewport</source>
         <translation>Ansichtsfenster</translation>
+    </message>
+    <message>
+        <source>Multiline</source>
+        <translation>Multilinie</translation>
+    </message>
+    <message>
+        <source>Polyface Mesh</source>
+        <translation>Vielflächennetz</translation>
+    </message>
+    <message>
+        <source>Polygon Mesh</source>
+        <translation>Polygonnetz</translation>
+    </message>
+    <message>
+        <source>3D Polyline</source>
+        <translation>3D-Polylinie</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Mesh</source>
+        <translation>Netz</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>OLE Object</source>
+        <translation>OLE-Objekt</translation>
+    </message>
+    <message>
+        <source>Raster Image</source>
+        <translation>Rasterbild</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>PDF Underlay</source>
+        <translation>PDF-Unterlage</translation>
+    </message>
+    <message>
+        <source>DGN Underlay</source>
+        <translation>DGN-Unterlage</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Multiline Style</source>
+        <translation>Multilinienstil</translation>
+    </message>
+    <message>
+        <source>Table Style</source>
+        <translation>Tabellenstil</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Viewport Configuration</source>
+        <translation>Ansichtsfensterkonfiguration</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1105,98 @@
         <source>The layout's own paper view cannot be changed.</source>
         <translation>Die Papieransicht des Layouts selbst kann nicht geändert werden.</translation>
     </message>
+    <message>
+        <source>view</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>multiline style</source>
+        <translation>Multilinienstil</translation>
+    </message>
+    <message>
+        <source>table style</source>
+        <translation>Tabellenstil</translation>
+    </message>
+    <message>
+        <source>This %1 belongs to no dictionary of the drawing and cannot be renamed.</source>
+        <translation>Diese(r) %1 gehört zu keinem Verzeichnis der Zeichnung und kann nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>%1 must be a whole number</source>
+        <translation>%1 muss eine ganze Zahl sein</translation>
+    </message>
+    <message>
+        <source>The justification cannot be changed: the offsets of the multiline style are not known.</source>
+        <translation>Die Ausrichtung kann nicht geändert werden: die Abstände des Multilinienstils sind nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Dimension overrides need a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Bemaßungsüberschreibungen brauchen eine als %1 oder neuer gespeicherte Zeichnung; diese Zeichnung ist %2.</translation>
+    </message>
+    <message>
+        <source>Inspection data needs a drawing saved as %1 or later; this drawing is %2.</source>
+        <translation>Prüfdaten brauchen eine als %1 oder neuer gespeicherte Zeichnung; diese Zeichnung ist %2.</translation>
+    </message>
+    <message>
+        <source>A light needs a name.</source>
+        <translation>Ein Licht braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>A light's name is one line: it cannot contain line breaks or control characters.</source>
+        <translation>Der Name eines Lichts ist eine Zeile: er darf keine Zeilenumbrüche oder Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>The hotspot of a light cannot be wider than its falloff.</source>
+        <translation>Der Hotspot eines Lichts kann nicht breiter als sein Abfall sein.</translation>
+    </message>
+    <message>
+        <source>A light's cone angle must be greater than 0 and at most 160 degrees.</source>
+        <translation>Der Kegelwinkel eines Lichts muss größer als 0 und höchstens 160 Grad sein.</translation>
+    </message>
+    <message>
+        <source>An OLE object's width and height must be greater than 0.</source>
+        <translation>Breite und Höhe eines OLE-Objekts müssen größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>%1 is a whole number.</source>
+        <translation>%1 ist eine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>The image does not lie in the XY plane of the current UCS: its rotation cannot be set there.</source>
+        <translation>Das Bild liegt nicht in der XY-Ebene des aktuellen BKS: seine Drehung kann dort nicht eingestellt werden.</translation>
+    </message>
+    <message>
+        <source>An image's size and scale must be greater than 0.</source>
+        <translation>Größe und Maßstab eines Bildes müssen größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>There is no cell %1: the table has %2 cells.</source>
+        <translation>Es gibt keine Zelle %1: die Tabelle hat %2 Zellen.</translation>
+    </message>
+    <message>
+        <source>A cell's text is one line: write a line break as \P.</source>
+        <translation>Der Text einer Zelle ist eine Zeile: schreiben Sie einen Zeilenumbruch als \P.</translation>
+    </message>
+    <message>
+        <source>A cell's text can be at most 250 characters long.</source>
+        <translation>Der Text einer Zelle darf höchstens 250 Zeichen lang sein.</translation>
+    </message>
+    <message>
+        <source>This cell holds a block, not text.</source>
+        <translation>Diese Zelle enthält einen Block, keinen Text.</translation>
+    </message>
+    <message>
+        <source>The drawing keeps no text of its own for this cell: it cannot be edited here.</source>
+        <translation>Die Zeichnung speichert für diese Zelle keinen eigenen Text: er kann hier nicht bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>An underlay's scale must be greater than 0.</source>
+        <translation>Der Maßstab einer Unterlage muss größer als 0 sein.</translation>
+    </message>
 </context>
 <context>
     <name>info_items</name>
@@ -1473,6 +1640,154 @@
         <source>Scale relative to paper space</source>
         <translation>Maßstab relativ zum Papierbereich</translation>
     </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Justify</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Vertex count</source>
+        <translation>Anzahl Scheitelpunkte</translation>
+    </message>
+    <message>
+        <source>Face count</source>
+        <translation>Anzahl Flächen</translation>
+    </message>
+    <message>
+        <source>Surface area</source>
+        <translation>Oberfläche</translation>
+    </message>
+    <message>
+        <source>M vertex count</source>
+        <translation>Anzahl Scheitelpunkte M</translation>
+    </message>
+    <message>
+        <source>N vertex count</source>
+        <translation>Anzahl Scheitelpunkte N</translation>
+    </message>
+    <message>
+        <source>M closed</source>
+        <translation>In M geschlossen</translation>
+    </message>
+    <message>
+        <source>N closed</source>
+        <translation>In N geschlossen</translation>
+    </message>
+    <message>
+        <source>M density</source>
+        <translation>Dichte M</translation>
+    </message>
+    <message>
+        <source>N density</source>
+        <translation>Dichte N</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Width factor</source>
+        <translation>Breitenfaktor</translation>
+    </message>
+    <message>
+        <source>Oblique angle</source>
+        <translation>Neigungswinkel</translation>
+    </message>
+    <message>
+        <source>Smoothness</source>
+        <translation>Glättung</translation>
+    </message>
+    <message>
+        <source>Edge count</source>
+        <translation>Anzahl Kanten</translation>
+    </message>
+    <message>
+        <source>1st defining point attached to</source>
+        <translation>1. Definitionspunkt gebunden an</translation>
+    </message>
+    <message>
+        <source>2nd defining point attached to</source>
+        <translation>2. Definitionspunkt gebunden an</translation>
+    </message>
+    <message>
+        <source>3rd defining point attached to</source>
+        <translation>3. Definitionspunkt gebunden an</translation>
+    </message>
+    <message>
+        <source>4th defining point attached to</source>
+        <translation>4. Definitionspunkt gebunden an</translation>
+    </message>
+    <message>
+        <source>association</source>
+        <translation>Assoziativität</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Intensity factor</source>
+        <translation>Intensitätsfaktor</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>Hotspot angle</source>
+        <translation>Hotspot-Winkel</translation>
+    </message>
+    <message>
+        <source>Falloff angle</source>
+        <translation>Abfallwinkel</translation>
+    </message>
+    <message>
+        <source>Upper left corner</source>
+        <translation>Obere linke Ecke</translation>
+    </message>
+    <message>
+        <source>Lower right corner</source>
+        <translation>Untere rechte Ecke</translation>
+    </message>
+    <message>
+        <source>Image name</source>
+        <translation>Bildname</translation>
+    </message>
+    <message>
+        <source>Saved path</source>
+        <translation>Gespeicherter Pfad</translation>
+    </message>
+    <message>
+        <source>Insertion point</source>
+        <translation>Einfügepunkt</translation>
+    </message>
+    <message>
+        <source>Table style</source>
+        <translation>Tabellenstil</translation>
+    </message>
+    <message>
+        <source>Table width</source>
+        <translation>Tabellenbreite</translation>
+    </message>
+    <message>
+        <source>Table height</source>
+        <translation>Tabellenhöhe</translation>
+    </message>
+    <message>
+        <source>Underlay name</source>
+        <translation>Name der Unterlage</translation>
+    </message>
 </context>
 <context>
     <name>info_values</name>
@@ -1632,6 +1947,78 @@
         <source>Off</source>
         <translation>Aus</translation>
     </message>
+    <message>
+        <source>no snap</source>
+        <translation>kein Objektfang</translation>
+    </message>
+    <message>
+        <source>end point</source>
+        <translation>Endpunkt</translation>
+    </message>
+    <message>
+        <source>midpoint</source>
+        <translation>Mittelpunkt</translation>
+    </message>
+    <message>
+        <source>center</source>
+        <translation>Zentrum</translation>
+    </message>
+    <message>
+        <source>node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>quadrant</source>
+        <translation>Quadrant</translation>
+    </message>
+    <message>
+        <source>intersection</source>
+        <translation>Schnittpunkt</translation>
+    </message>
+    <message>
+        <source>insertion point</source>
+        <translation>Einfügepunkt</translation>
+    </message>
+    <message>
+        <source>perpendicular</source>
+        <translation>Lotpunkt</translation>
+    </message>
+    <message>
+        <source>tangent</source>
+        <translation>Tangente</translation>
+    </message>
+    <message>
+        <source>nearest point</source>
+        <translation>Nächster Punkt</translation>
+    </message>
+    <message>
+        <source>apparent intersection</source>
+        <translation>Angenommener Schnittpunkt</translation>
+    </message>
+    <message>
+        <source>parallel</source>
+        <translation>Parallele</translation>
+    </message>
+    <message>
+        <source>start point</source>
+        <translation>Startpunkt</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <translation>%1 von %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2, which is not in the drawing</source>
+        <translation>%1 von %2, das nicht in der Zeichnung ist</translation>
+    </message>
+    <message>
+        <source>found</source>
+        <translation>gefunden</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
 </context>
 <context>
     <name>property_groups</name>
@@ -1706,6 +2093,34 @@
     <message>
         <source>Attributes</source>
         <translation>Attribute</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Zelle</translation>
+    </message>
+    <message>
+        <source>Caps</source>
+        <translation>Abschlüsse</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllung</translation>
+    </message>
+    <message>
+        <source>Cell margins</source>
+        <translation>Zellränder</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Drawing aids</source>
+        <translation>Zeichenhilfen</translation>
     </message>
 </context>
 <context>
@@ -2454,6 +2869,242 @@
         <source>Frozen layers</source>
         <translation>Gefrorene Layer</translation>
     </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Vertex count</source>
+        <translation>Anzahl Scheitelpunkte</translation>
+    </message>
+    <message>
+        <source>Face count</source>
+        <translation>Anzahl Flächen</translation>
+    </message>
+    <message>
+        <source>M vertex count</source>
+        <translation>Anzahl Scheitelpunkte M</translation>
+    </message>
+    <message>
+        <source>N vertex count</source>
+        <translation>Anzahl Scheitelpunkte N</translation>
+    </message>
+    <message>
+        <source>M closed</source>
+        <translation>In M geschlossen</translation>
+    </message>
+    <message>
+        <source>N closed</source>
+        <translation>In N geschlossen</translation>
+    </message>
+    <message>
+        <source>M density</source>
+        <translation>Dichte M</translation>
+    </message>
+    <message>
+        <source>N density</source>
+        <translation>Dichte N</translation>
+    </message>
+    <message>
+        <source>Smoothness</source>
+        <translation>Glättung</translation>
+    </message>
+    <message>
+        <source>Edge count</source>
+        <translation>Anzahl Kanten</translation>
+    </message>
+    <message>
+        <source>Intensity factor</source>
+        <translation>Intensitätsfaktor</translation>
+    </message>
+    <message>
+        <source>Shadows</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>Target X</source>
+        <translation>Ziel X</translation>
+    </message>
+    <message>
+        <source>Target Y</source>
+        <translation>Ziel Y</translation>
+    </message>
+    <message>
+        <source>Target Z</source>
+        <translation>Ziel Z</translation>
+    </message>
+    <message>
+        <source>Hotspot angle</source>
+        <translation>Hotspot-Winkel</translation>
+    </message>
+    <message>
+        <source>Falloff angle</source>
+        <translation>Abfallwinkel</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Fade</source>
+        <translation>Blasser</translation>
+    </message>
+    <message>
+        <source>Show image</source>
+        <translation>Bild anzeigen</translation>
+    </message>
+    <message>
+        <source>Show clipped</source>
+        <translation>Zugeschnitten anzeigen</translation>
+    </message>
+    <message>
+        <source>Table width</source>
+        <translation>Tabellenbreite</translation>
+    </message>
+    <message>
+        <source>Table height</source>
+        <translation>Tabellenhöhe</translation>
+    </message>
+    <message>
+        <source>Table style</source>
+        <translation>Tabellenstil</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Zelle</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Monochrome</source>
+        <translation>Monochrom</translation>
+    </message>
+    <message>
+        <source>Show underlay</source>
+        <translation>Unterlage anzeigen</translation>
+    </message>
+    <message>
+        <source>Selectable</source>
+        <translation>Wählbar</translation>
+    </message>
+    <message>
+        <source>Members</source>
+        <translation>Mitglieder</translation>
+    </message>
+    <message>
+        <source>Elements</source>
+        <translation>Elemente</translation>
+    </message>
+    <message>
+        <source>Display joints</source>
+        <translation>Verbindungen anzeigen</translation>
+    </message>
+    <message>
+        <source>Start line</source>
+        <translation>Linie am Anfang</translation>
+    </message>
+    <message>
+        <source>Start outer arc</source>
+        <translation>Äußerer Bogen am Anfang</translation>
+    </message>
+    <message>
+        <source>Start inner arcs</source>
+        <translation>Innere Bögen am Anfang</translation>
+    </message>
+    <message>
+        <source>End line</source>
+        <translation>Linie am Ende</translation>
+    </message>
+    <message>
+        <source>End outer arc</source>
+        <translation>Äußerer Bogen am Ende</translation>
+    </message>
+    <message>
+        <source>End inner arcs</source>
+        <translation>Innere Bögen am Ende</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllung</translation>
+    </message>
+    <message>
+        <source>Fill color</source>
+        <translation>Füllfarbe</translation>
+    </message>
+    <message>
+        <source>Table direction</source>
+        <translation>Tabellenrichtung</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Direction X</source>
+        <translation>Richtung X</translation>
+    </message>
+    <message>
+        <source>Direction Y</source>
+        <translation>Richtung Y</translation>
+    </message>
+    <message>
+        <source>Direction Z</source>
+        <translation>Richtung Z</translation>
+    </message>
+    <message>
+        <source>Lens length</source>
+        <translation>Objektivlänge</translation>
+    </message>
+    <message>
+        <source>Twist angle</source>
+        <translation>Verdrehwinkel</translation>
+    </message>
+    <message>
+        <source>Aspect ratio</source>
+        <translation>Seitenverhältnis</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Grid X spacing</source>
+        <translation>Rasterabstand X</translation>
+    </message>
+    <message>
+        <source>Grid Y spacing</source>
+        <translation>Rasterabstand Y</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>Fang</translation>
+    </message>
+    <message>
+        <source>Snap X spacing</source>
+        <translation>Fangabstand X</translation>
+    </message>
+    <message>
+        <source>Snap Y spacing</source>
+        <translation>Fangabstand Y</translation>
+    </message>
+    <message>
+        <source>Snap angle</source>
+        <translation>Fangwinkel</translation>
+    </message>
 </context>
 <context>
     <name>property_values</name>
@@ -3060,6 +3711,54 @@
     <message>
         <source>Rendered</source>
         <translation>Gerendert</translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation>Null</translation>
+    </message>
+    <message>
+        <source>Bezier</source>
+        <translation>Bezier</translation>
+    </message>
+    <message>
+        <source>Distant</source>
+        <translation>Entfernt</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Spot</source>
+        <translation>Spot</translation>
+    </message>
+    <message>
+        <source>Linked</source>
+        <translation>Verknüpft</translation>
+    </message>
+    <message>
+        <source>Embedded</source>
+        <translation>Eingebettet</translation>
+    </message>
+    <message>
+        <source>found</source>
+        <translation>gefunden</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
     </message>
 </context>
 <context>
