@@ -16,7 +16,7 @@ struct Found {
   const char* row;
   const char* value;
   const char* refusal;
-  const char* handle = nullptr;  // the object edited; the first of model space when null
+  const char* type = nullptr;  // DXF type of the object edited (the first such); the first of model space when null
 };
 
 void PrintTo(const Found& f, std::ostream* os) { *os << f.name; }
@@ -38,7 +38,12 @@ TEST_P(FoundProblems, RefusedWhenMadeAndTheDrawingStillSaves) {
 
   CZqPropertiesWindowService service(db.get());
   OdDbObjectId target = all.front();
-  if (GetParam().handle) target = db->getOdDbObjectId(OdDbHandle(QByteArray(GetParam().handle).toULongLong(nullptr, 16)));
+  if (GetParam().type) {
+    // Drawings before R12 have no handles of their own: the object is found by kind.
+    target = OdDbObjectId();
+    for (const OdDbObjectId& id : all)
+      if (target.isNull() && id.openObject()->isA()->dxfName() == OdString(GetParam().type)) target = id;
+  }
   ASSERT_FALSE(target.isNull());
   service.SetSelection({target});
   const std::vector<CZqPaletteRow> rows = service.Rows();
@@ -66,10 +71,10 @@ INSTANTIATE_TEST_SUITE_P(
               "A hyperlink needs a drawing saved as R12 or later; this drawing is AC1003."},
         // The inspection data of a dimension is extended data too.
         Found{"DimensionInspectionBeforeR12", "libredwg__test__test-data__r2.6__dim.dxf", "Inspection rate", "5",
-              "Inspection data needs a drawing saved as R12 or later; this drawing is AC1003.", "43"},
+              "Inspection data needs a drawing saved as R12 or later; this drawing is AC1003.", "DIMENSION"},
         // So are its overrides of its style's variables.
         Found{"DimensionOverrideBeforeR12", "libredwg__test__test-data__r2.6__dim.dxf", "Arrow size", "0.5",
-              "Dimension overrides need a drawing saved as R12 or later; this drawing is AC1003.", "43"}),
+              "Dimension overrides need a drawing saved as R12 or later; this drawing is AC1003.", "DIMENSION"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
