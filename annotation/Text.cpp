@@ -349,8 +349,7 @@ struct HeightLook {
 const HeightLook& heightLook(bool annotative) {
   static HeightLook looks[2];
   static unsigned generation = 0;
-  if (generation != zqTranslationGeneration()) {
-    generation = zqTranslationGeneration();
+  if (zqTranslationsChangedSince(generation)) {
     for (const bool a : {false, true}) {
       const char* name = a ? QT_TRANSLATE_NOOP("property_types", "Model text height") : "Height";
       const QString stem = a ? QStringLiteral("Text_model_text_height") : QStringLiteral("Text_Height");

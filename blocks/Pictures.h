@@ -1,36 +1,12 @@
 #pragma once
 // Callbacks shared by the providers of pictures placed in a drawing (raster
-// images, underlays, OLE frames): whole numbers within a row's limit,
-// yes/no flags, the status of a referenced file and the rotation of a
-// picture's plane in the current UCS.
+// images, underlays, OLE frames): the status of a referenced file and the
+// rotation of a picture's plane in the current UCS. Whole-number rows
+// (brightness, contrast, fade) use ZqWholeNumberRows.h.
 #include "ZqCallbacks.h"
+#include "ZqWholeNumberRows.h"
 #include <QCoreApplication>
 #include <cmath>
-
-// A whole number of the row's limit (percentages: brightness, fade).
-template <class T, int (T::*Get)() const>
-CZqVariant ZqGetInt(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
-  const T* t = ZqReadable<T>(object);
-  return t ? CZqVariant(int32_t((t->*Get)())) : CZqVariant();
-}
-
-// Takes an integer (or a whole double) within the row's limit; a value
-// outside is refused with the limit's sentence and changes nothing.
-template <class T, void (T::*Set)(int)>
-int ZqSetInt(const OdDbObject* object, const CZqPropertyDescription& description, const CZqVariant& value,
-             const CZqVariant&) {
-  T* t = ZqWritable<T>(object);
-  if (!t) return kZqSetRefused;
-  double v = 0;
-  if (value.GetType() == CZqVariant::kVtInt32) v = value.GetInt32();
-  else if (value.GetType() == CZqVariant::kVtDouble) v = value.GetDouble();
-  else return kZqSetRefused;
-  if (const int refused = ZqCheckLimit(description, v)) return refused;
-  if (v != std::floor(v))
-    return ZqRefuseWith(QCoreApplication::translate("errors", "%1 is a whole number.").arg(description.GetName().qstring()));
-  (t->*Set)(int(v));
-  return kZqSetApplied;
-}
 
 // "found" or "not found": whether the file a picture shows is there.
 template <class T, bool (T::*Found)() const>

@@ -1,4 +1,5 @@
 #include "Polyline2d.h"
+#include "PolylineInfo.h"
 #include "ZqAreaText.h"
 #include "ZqCallbacks.h"
 #include "ZqEnumerations.h"
@@ -115,12 +116,6 @@ int setGlobalWidth(const OdDbObject* object, const CZqPropertyDescription& descr
   return kZqSetApplied;
 }
 
-double polylineLength(const P* pl) {
-  double end = 0, dist = 0;
-  if (pl->getEndParam(end) != eOk || pl->getDistAtParam(end, dist) != eOk) return 0;
-  return dist;
-}
-
 CZqVariant getArea(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& index) {
   const P* pl = ZqReadable<P>(object);
   double area = 0;
@@ -130,7 +125,7 @@ CZqVariant getArea(const OdDbObject* object, const CZqPropertyDescription&, cons
 
 CZqVariant getLength(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
   const P* pl = ZqReadable<P>(object);
-  return pl ? ZqDouble(polylineLength(pl)) : CZqVariant();
+  return pl ? ZqDouble(ZqCurvesHelper::GetLength(pl)) : CZqVariant();
 }
 
 // How the polyline was smoothed; shown, not edited (a new fit needs new
@@ -199,17 +194,7 @@ ZQ_DEFINE_PROVIDER(CZq2dPolylinePE, QT_TRANSLATE_NOOP("entity_types", "2D Polyli
 
 void CZq2dPolylineInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) {
   ZqPrintInfoFrame<OdDb2dPolyline>(this, object, context, [&](const OdDb2dPolyline* pl) {
-    context->PrintString(QCoreApplication::translate("info_items", "PolyLine Flags"),
-                         pl->isClosed() ? QCoreApplication::translate("info_values", "Closed")
-                                        : QCoreApplication::translate("info_values", "Open"));
-    const int fit = ZqChoiceIndex(kFitTypes, pl->polyType());
-    if (fit > 0)
-      context->PrintString(QCoreApplication::translate("info_items", "Fit/Smooth"),
-                           QCoreApplication::translate("property_values", kFitTypes[fit].word));
-    double area = 0;
-    pl->getArea(area);
-    context->PrintArea(QCoreApplication::translate("info_items", "Area"), area);
-    context->PrintDist(QCoreApplication::translate("info_items", "Perimeter"), polylineLength(pl));
+    ZqPrintPolylineHead(pl, context, kFitTypes, QT_TRANSLATE_NOOP("info_items", "Perimeter"));
     double width = 0;
     const bool uniform = uniformWidth(pl, width);
     if (uniform) context->PrintWidth(QCoreApplication::translate("property_types", "Global width"), width);

@@ -1,4 +1,5 @@
 #include "Polyline3d.h"
+#include "PolylineInfo.h"
 #include "ZqAreaText.h"
 #include "ZqCallbacks.h"
 #include "ZqEnumerations.h"
@@ -10,15 +11,9 @@ namespace {
 
 using P = OdDb3dPolyline;
 
-double polylineLength(const P* pl) {
-  double end = 0, dist = 0;
-  if (pl->getEndParam(end) != eOk || pl->getDistAtParam(end, dist) != eOk) return 0;
-  return dist;
-}
-
 CZqVariant getLength(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant&) {
   const P* pl = ZqReadable<P>(object);
-  return pl ? ZqDouble(polylineLength(pl)) : CZqVariant();
+  return pl ? ZqDouble(ZqCurvesHelper::GetLength(pl)) : CZqVariant();
 }
 
 CZqVariant getArea(const OdDbObject* object, const CZqPropertyDescription&, const CZqVariant& index) {
@@ -67,17 +62,7 @@ ZQ_DEFINE_PROVIDER(CZq3dPolylinePE, QT_TRANSLATE_NOOP("entity_types", "3D Polyli
 
 void CZq3dPolylineInfo::PrintObjectInfo(const OdDbObject* object, CZqPrintInfoContext* context) {
   ZqPrintInfoFrame<P>(this, object, context, [&](const P* pl) {
-    context->PrintString(QCoreApplication::translate("info_items", "PolyLine Flags"),
-                         pl->isClosed() ? QCoreApplication::translate("info_values", "Closed")
-                                        : QCoreApplication::translate("info_values", "Open"));
-    const int fit = ZqChoiceIndex(kFitTypes, pl->polyType());
-    if (fit > 0)
-      context->PrintString(QCoreApplication::translate("info_items", "Fit/Smooth"),
-                           QCoreApplication::translate("property_values", kFitTypes[fit].word));
-    double area = 0;
-    pl->getArea(area);
-    context->PrintArea(QCoreApplication::translate("info_items", "Area"), area);
-    context->PrintDist(QCoreApplication::translate("info_items", "Length"), polylineLength(pl));
+    ZqPrintPolylineHead(pl, context, kFitTypes, QT_TRANSLATE_NOOP("info_items", "Length"));
     for (unsigned i = 0; i < pl->numVerts(); ++i) {
       if (!context->CheckCounter()) return;
       context->PrintPoint(QCoreApplication::translate("info_items", "Location %1").arg(i), pl->vertexPosition(i));

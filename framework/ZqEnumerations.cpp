@@ -40,10 +40,7 @@ CZqVariant ZqEnumeration(std::span<const ZqChoice> choices, int current) {
   };
   static std::unordered_map<Key, Entry, KeyHash> cache;
   static unsigned generation = 0;
-  if (generation != zqTranslationGeneration()) {
-    cache.clear();
-    generation = zqTranslationGeneration();
-  }
+  if (zqTranslationsChangedSince(generation)) cache.clear();
   Entry& entry = cache[Key{choices.data(), choices.size(), current}];
   const bool same = entry.collection && std::equal(choices.begin(), choices.end(), entry.choices.begin(), entry.choices.end(),
                                                    [](const ZqChoice& a, const ZqChoice& b) { return a.word == b.word && a.tag == b.tag; });

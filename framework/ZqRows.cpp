@@ -103,10 +103,7 @@ struct RowTexts {
 const RowTexts& textsOf(const ZqRow& row) {
   static std::unordered_map<const ZqRow*, RowTexts> made;
   static unsigned generation = 0;
-  if (generation != zqTranslationGeneration()) {
-    made.clear();
-    generation = zqTranslationGeneration();
-  }
+  if (zqTranslationsChangedSince(generation)) made.clear();
   RowTexts& texts = made[&row];
   if (!texts.madeFrom(row)) {
     const QString name = nameText(row);

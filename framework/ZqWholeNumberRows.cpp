@@ -7,7 +7,7 @@ int ZqTakeWholeNumber(const CZqPropertyDescription& description, const CZqVarian
   else if (value.GetType() == CZqVariant::kVtDouble) v = value.GetDouble();
   else return kZqSetRefused;
   if (!std::isfinite(v) || v != std::floor(v) || std::fabs(v) > 2e9)
-    return ZqRefuseWith(QCoreApplication::translate("errors", "%1 must be a whole number").arg(description.GetName().qstring()));
+    return ZqRefuseWith(QCoreApplication::translate("errors", "%1 is a whole number.").arg(description.GetName().qstring()));
   if (const int refused = ZqCheckLimit(description, v)) return refused;
   n = int(v);
   return 0;

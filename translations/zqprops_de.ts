@@ -1126,10 +1126,6 @@
         <translation>Diese(r) %1 gehört zu keinem Verzeichnis der Zeichnung und kann nicht umbenannt werden.</translation>
     </message>
     <message>
-        <source>%1 must be a whole number</source>
-        <translation>%1 muss eine ganze Zahl sein</translation>
-    </message>
-    <message>
         <source>The justification cannot be changed: the offsets of the multiline style are not known.</source>
         <translation>Die Ausrichtung kann nicht geändert werden: die Abstände des Multilinienstils sind nicht bekannt.</translation>
     </message>

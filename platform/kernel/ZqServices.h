@@ -43,6 +43,14 @@ ZQKERNEL_API CZqResources* GetZqResources();
 // (a language installed or removed): texts translated once and kept must be
 // translated again when it differs from the one they were made under.
 ZQKERNEL_API unsigned zqTranslationGeneration();
+// True when the translators changed since `seen` was taken (then `seen` is
+// brought up to date): a cache of translated texts is emptied then.
+inline bool zqTranslationsChangedSince(unsigned& seen) {
+  const unsigned now = zqTranslationGeneration();
+  if (seen == now) return false;
+  seen = now;
+  return true;
+}
 
 // Edition queries and small shared utilities.
 class ZQKERNEL_API CZqUtils {

@@ -107,12 +107,13 @@ class Writer {
     r.setHandle(r.append(memberCode), member);
     return r;
   }
-  void append(Record r) {
-    m_objects->records.append(std::move(r));
-    // OBJECTS records this writer adds belong to no modelled object.
+  // Records this writer adds belong to no modelled object.
+  void appendTo(Section* section, Record r) {
+    section->records.append(std::move(r));
     for (size_t s = 0; s < m_d.owners.size(); ++s)
-      if (&m_d.file.sections()[int(s)] == m_objects) m_d.owners[s].push_back(nullptr);
+      if (&m_d.file.sections()[int(s)] == section) m_d.owners[s].push_back(nullptr);
   }
+  void append(Record r) { appendTo(m_objects, std::move(r)); }
 
   void addContext(Record& entity, const OdDbText* text, quint64 scale) {
     const quint64 owner = entity.handle();
@@ -180,9 +181,7 @@ class Writer {
     if (m_ctx.release >= 1018) c.setInteger(c.append(91), 0);
     c.setInteger(c.append(280), 0);
     c.setInteger(c.append(281), 0);
-    classes->records.append(std::move(c));
-    for (size_t s = 0; s < m_d.owners.size(); ++s)
-      if (&m_d.file.sections()[int(s)] == classes) m_d.owners[s].push_back(nullptr);
+    appendTo(classes, std::move(c));
   }
 
   DrawingData& m_d;

@@ -367,21 +367,18 @@ OdDb::Poly2dType polyType(qint64 flags, qint64 smooth) {
 }
 
 // Reads a VERTEX record into a vertex; widths it leaves out are the polyline's.
-void readVertex(Context& ctx, Record& r, OdDb2dVertex* v, const OdDb2dPolyline* pl) {
-  RecordIO io(ctx, r, RecordIO::Read);
-  entityCommonFields(io, v, nullptr);
-  Fields<OdDb2dVertex> f(io, v, nullptr);
-  vertex2dFields(f);
-  if (!io.has(40)) v->setStartWidth(pl->defaultStartWidth());
-  if (!io.has(41)) v->setEndWidth(pl->defaultEndWidth());
-  entityXdataFields(io, v, nullptr);
-}
-
-void writeVertex(Context& ctx, Record& r, OdDb2dVertex* v, const OdDb2dVertex* before, RecordIO::Mode mode) {
+// One VERTEX record of `pl`. A vertex read without widths of its own takes
+// the polyline's default widths.
+void vertexRecord(Context& ctx, Record& r, OdDb2dVertex* v, const OdDb2dVertex* before, RecordIO::Mode mode,
+                  const OdDb2dPolyline* pl) {
   RecordIO io(ctx, r, mode);
   entityCommonFields(io, v, before);
   Fields<OdDb2dVertex> f(io, v, before);
   vertex2dFields(f);
+  if (mode == RecordIO::Read) {
+    if (!io.has(40)) v->setStartWidth(pl->defaultStartWidth());
+    if (!io.has(41)) v->setEndWidth(pl->defaultEndWidth());
+  }
   entityXdataFields(io, v, before);
 }
 
@@ -424,38 +421,9 @@ void polyline2dFields(Fields<OdDb2dPolyline>& f) {
   }
   f.normal(210, &P::normal, &P::setNormal);
 
-  QList<Record>* seq = io.sequence();
-  if (!seq) return;
-  if (io.reading()) {
-    for (Record& vr : *seq) {
-      OdDb2dVertexPtr v = OdDb2dVertex::createObject();
-      readVertex(ctx, vr, v.get(), pl);
-      v->setModified(false);
-      pl->appendVertex(v.get());
-    }
-    return;
-  }
-  // Vertices: the ones both have are patched, extra records dropped, new
-  // ones made (each VERTEX has a handle of its own).
-  const P* before = f.before();
-  const unsigned n = pl->numVerts(), kept = std::min<unsigned>(n, before->numVerts());
-  const bool wasQuiet = ctx.quiet;
-  ctx.quiet = true;
-  for (unsigned i = 0; i < kept && int(i) < seq->size(); ++i)
-    writeVertex(ctx, (*seq)[int(i)], const_cast<OdDb2dVertex*>(pl->vertexAt(i)), before->vertexAt(i), RecordIO::Patch);
-  while (seq->size() > int(kept)) seq->removeLast();
-  for (unsigned i = kept; i < n; ++i) {
-    Record vr = ctx.file->newRecord("VERTEX");
-    if (ctx.handles) vr.setHandle(vr.append(5), ctx.newHandle());
-    if (ctx.markers) {
-      if (ctx.handles) vr.setHandle(vr.append(330), io.record().handle());
-      vr.setRaw(vr.append(100), "AcDbEntity");
-    }
-    OdDb2dVertexPtr def = OdDb2dVertex::createObject();
-    writeVertex(ctx, vr, const_cast<OdDb2dVertex*>(pl->vertexAt(i)), def.get(), RecordIO::Create);
-    seq->append(vr);
-  }
-  ctx.quiet = wasQuiet;
+  polylineVertices<OdDb2dVertex>(f, [&ctx, pl](Record& r, OdDb2dVertex* v, const OdDb2dVertex* before, RecordIO::Mode mode) {
+    vertexRecord(ctx, r, v, before, mode, pl);
+  });
 }
 
 }  // namespace OdDxf::mapping

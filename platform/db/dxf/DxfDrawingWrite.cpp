@@ -63,6 +63,7 @@ class Writer {
   void registerApps();
   void collectRenames();
   void addMissingTables();
+  int addSection(QByteArrayView name);
   bool needsWalk(int s) const;
   void walk(int s);
   void patch(Record& r, OdDbStub* stub, QList<Record>* sequence);
@@ -462,15 +463,7 @@ void Writer::addMissingTables() {
     int s = -1;
     for (int i = 0; i < sections.size(); ++i)
       if (sections[i].name == "TABLES") s = i;
-    if (s < 0) {
-      int at = 0;
-      for (int i = 0; i < sections.size(); ++i)
-        if (sections[i].name == "HEADER" || sections[i].name == "CLASSES") at = i + 1;
-      m_d.file.addSection("TABLES");
-      sections.move(sections.size() - 1, at);
-      m_d.owners.insert(m_d.owners.begin() + at, std::vector<OdDbStub*>());
-      s = at;
-    }
+    if (s < 0) s = addSection("TABLES");
     Record begin = m_d.file.newRecord("TABLE");
     begin.setRaw(begin.append(2), kTables[k].name);
     if (m_ctx.handles) {
@@ -503,6 +496,24 @@ void Writer::addMissingTables() {
   }
 }
 
+// Adds an empty section to a drawing that lacks it, after the sections that
+// come before it in a drawing (HEADER, CLASSES, TABLES, BLOCKS, ENTITIES);
+// returns its index.
+int Writer::addSection(QByteArrayView name) {
+  static const char* const kOrder[] = {"HEADER", "CLASSES", "TABLES", "BLOCKS", "ENTITIES"};
+  int rank = 0;
+  while (rank < int(std::size(kOrder)) && name != kOrder[rank]) ++rank;
+  QList<Section>& sections = m_d.file.sections();
+  int at = 0;
+  for (int s = 0; s < sections.size(); ++s)
+    for (int r = 0; r < rank; ++r)
+      if (sections[s].name == kOrder[r]) at = s + 1;
+  m_d.file.addSection(name);
+  sections.move(sections.size() - 1, at);
+  m_d.owners.insert(m_d.owners.begin() + at, std::vector<OdDbStub*>());
+  return at;
+}
+
 // Whether a section has anything to bring up to date.
 bool Writer::needsWalk(int s) const {
   const Section& sec = m_d.file.sections()[s];
@@ -528,17 +539,7 @@ void Writer::run() {
     if (sections[s].name == "ENTITIES") m_lastEntities = s;
   const OdDbObjectId model = m_db->getModelSpaceId(), paper = m_db->getPaperSpaceId();
   if (m_lastEntities < 0 && (newEntitiesOf(model.stub()) || newEntitiesOf(paper.stub()))) {
-    // A drawing without ENTITIES section gets one after the sections that
-    // precede it.
-    int at = 0;
-    for (int s = 0; s < sections.size(); ++s)
-      if (sections[s].name == "HEADER" || sections[s].name == "CLASSES" || sections[s].name == "TABLES" ||
-          sections[s].name == "BLOCKS")
-        at = s + 1;
-    m_d.file.addSection("ENTITIES");
-    sections.move(sections.size() - 1, at);
-    m_d.owners.insert(m_d.owners.begin() + at, std::vector<OdDbStub*>());
-    m_lastEntities = at;
+    m_lastEntities = addSection("ENTITIES");
   }
   for (int s = 0; s < sections.size(); ++s)
     if (needsWalk(s)) walk(s);

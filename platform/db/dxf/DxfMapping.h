@@ -444,6 +444,48 @@ void vertex3dFields(Fields<OdDb3dPolylineVertex>& f);
 void polyFaceMeshFields(Fields<OdDbPolyFaceMesh>& f);
 void polygonMeshFields(Fields<OdDbPolygonMesh>& f);
 void subDMeshFields(Fields<OdDbSubDMesh>& f);
+
+// A new VERTEX record of the POLYLINE record `owner`: its own handle, the
+// owner and the entity marker, as far as the release has them.
+Record newVertexRecord(Context& ctx, const Record& owner);
+
+// The VERTEX records of a 2D or 3D polyline (V its vertex class). Reading
+// makes one vertex per record; writing patches the records of the vertices
+// both versions have, drops the records past the new count and makes
+// records for new vertices (each VERTEX has a handle of its own).
+// `vertexRecord(record, vertex, before, mode)` reads or writes one record;
+// `before` is null when reading.
+template <class V, class P, class VertexRecord>
+void polylineVertices(Fields<P>& f, VertexRecord&& vertexRecord) {
+  RecordIO& io = f.io();
+  QList<Record>* seq = io.sequence();
+  if (!seq) return;
+  P* pl = f.object();
+  if (io.reading()) {
+    for (Record& vr : *seq) {
+      OdSmartPtr<V> v = V::createObject();
+      vertexRecord(vr, v.get(), static_cast<const V*>(nullptr), RecordIO::Read);
+      v->setModified(false);
+      pl->appendVertex(v.get());
+    }
+    return;
+  }
+  Context& ctx = io.ctx();
+  const P* before = f.before();
+  const unsigned n = pl->numVerts(), kept = qMin(n, before->numVerts());
+  const bool wasQuiet = ctx.quiet;
+  ctx.quiet = true;
+  for (unsigned i = 0; i < kept && int(i) < seq->size(); ++i)
+    vertexRecord((*seq)[int(i)], const_cast<V*>(pl->vertexAt(i)), before->vertexAt(i), RecordIO::Patch);
+  while (seq->size() > int(kept)) seq->removeLast();
+  for (unsigned i = kept; i < n; ++i) {
+    Record vr = newVertexRecord(ctx, io.record());
+    OdSmartPtr<V> def = V::createObject();
+    vertexRecord(vr, const_cast<V*>(pl->vertexAt(i)), def.get(), RecordIO::Create);
+    seq->append(vr);
+  }
+  ctx.quiet = wasQuiet;
+}
 // Multilines (DxfCurves.cpp).
 void mlineFields(Fields<OdDbMline>& f);
 void shapeFields(Fields<OdDbShape>& f);

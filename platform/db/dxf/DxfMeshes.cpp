@@ -9,10 +9,6 @@
 
 namespace OdDxf::mapping {
 
-namespace {
-
-// A new VERTEX record of the polyline `owner`, with its handle and the
-// common subclass marker; the class's own fields follow.
 Record newVertexRecord(Context& ctx, const Record& owner) {
   Record vr = ctx.file->newRecord("VERTEX");
   if (ctx.handles) vr.setHandle(vr.append(5), ctx.newHandle());
@@ -22,6 +18,8 @@ Record newVertexRecord(Context& ctx, const Record& owner) {
   }
   return vr;
 }
+
+namespace {
 
 // The POLYLINE's own head: the entities-follow flag and the dummy point of
 // a new record, then the flag bits of the kind (8, 16 or 64) in 70.
@@ -129,32 +127,10 @@ void polyline3dFields(Fields<OdDb3dPolyline>& f) {
     io.skip(75);
   }
 
-  QList<Record>* seq = io.sequence();
-  if (!seq) return;
-  if (io.reading()) {
-    for (Record& vr : *seq) {
-      OdDb3dPolylineVertexPtr v = OdDb3dPolylineVertex::createObject();
-      vertex3dRecord(ctx, vr, v.get(), nullptr, RecordIO::Read);
-      v->setModified(false);
-      pl->appendVertex(v.get());
-    }
-    return;
-  }
-  // Vertices both have are patched, extra records dropped, new ones made.
-  const P* before = f.before();
-  const unsigned n = pl->numVerts(), kept = std::min<unsigned>(n, before->numVerts());
-  const bool wasQuiet = ctx.quiet;
-  ctx.quiet = true;
-  for (unsigned i = 0; i < kept && int(i) < seq->size(); ++i)
-    vertex3dRecord(ctx, (*seq)[int(i)], const_cast<OdDb3dPolylineVertex*>(pl->vertexAt(i)), before->vertexAt(i), RecordIO::Patch);
-  while (seq->size() > int(kept)) seq->removeLast();
-  for (unsigned i = kept; i < n; ++i) {
-    Record vr = newVertexRecord(ctx, io.record());
-    OdDb3dPolylineVertexPtr def = OdDb3dPolylineVertex::createObject();
-    vertex3dRecord(ctx, vr, const_cast<OdDb3dPolylineVertex*>(pl->vertexAt(i)), def.get(), RecordIO::Create);
-    seq->append(vr);
-  }
-  ctx.quiet = wasQuiet;
+  polylineVertices<OdDb3dPolylineVertex>(
+      f, [&ctx](Record& r, OdDb3dPolylineVertex* v, const OdDb3dPolylineVertex* before, RecordIO::Mode mode) {
+        vertex3dRecord(ctx, r, v, before, mode);
+      });
 }
 
 // ---------------------------------------------------------------------------
